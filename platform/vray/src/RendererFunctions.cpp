@@ -1,1 +1,0 @@
-// Renderer library functions the parameter layer calls (filled in with the parameter layer).
