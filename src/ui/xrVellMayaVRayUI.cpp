@@ -1,1 +1,7 @@
-// placeholder
+#include "ui/xrVellMayaVRayUI.h"
+
+xrVellMayaVRayUI::xrVellMayaVRayUI() {}
+
+xrVellMayaVRayUI::~xrVellMayaVRayUI() {}
+
+void* xrVellMayaVRayUI::creator() { return new xrVellMayaVRayUI(); }

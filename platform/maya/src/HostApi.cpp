@@ -1,0 +1,264 @@
+#include <mayahost/Host.h>
+
+#include <algorithm>
+
+#include "DataObj.h"
+#include "Graph.h"
+
+namespace mayahost {
+namespace detail {
+void unloadAllPlugins();
+}  // namespace detail
+
+using namespace detail;
+
+namespace {
+
+void setError(std::string* error, const std::string& text) {
+    if (error) *error = text;
+}
+
+NodeTypeInfo describe(const NodeType& type) {
+    NodeTypeInfo info;
+    info.name = type.name;
+    info.id = type.id;
+    info.classification = type.classification;
+    info.isShape = type.isShape;
+    info.hasUICreator = type.uiCreator != nullptr;
+    info.pluginPath = type.plugin ? type.plugin->path : "";
+    for (const MObject& handle : type.attributes)
+        info.attributes.push_back(attributeOf(handle)->longName);
+    return info;
+}
+
+AttributeInfo describe(const AttributeObj& a) {
+    AttributeInfo info;
+    info.longName = a.longName;
+    info.shortName = a.shortName;
+    info.kind = static_cast<mayahost::AttributeKind>(a.kind);
+    info.numericType = a.numericType;
+    info.dataType = a.dataType;
+    info.typeId = a.typeId;
+    info.unitType = a.unitType;
+    info.defaultNumber = a.defaultValue.d;
+    info.defaultAddr = a.defaultValue.addr;
+    info.defaultString = a.defaultValue.str.asChar();
+    info.hasDefaultData = !a.defaultValue.data.isNull();
+    info.readable = a.readable;
+    info.writable = a.writable;
+    info.storable = a.storable;
+    info.keyable = a.keyable;
+    info.hidden = a.hidden;
+    info.array = a.array;
+    info.affectsWorldSpace = a.affectsWorldSpace;
+    return info;
+}
+
+bool nameTaken(const std::string& name) {
+    for (NodeObj* node : state().nodes)
+        if (node->name == name) return true;
+    return false;
+}
+
+// Maya's rule: a requested name that is taken, or none, gets the lowest free number appended.
+std::string uniqueName(const std::string& requested, const std::string& typeName) {
+    if (!requested.empty() && !nameTaken(requested)) return requested;
+    std::string stem = requested.empty() ? typeName : requested;
+    while (!stem.empty() && std::isdigit(static_cast<unsigned char>(stem.back()))) stem.pop_back();
+    for (int number = 1;; ++number) {
+        const std::string candidate = stem + std::to_string(number);
+        if (!nameTaken(candidate)) return candidate;
+    }
+}
+
+struct PlugParts {
+    NodeObj* node;
+    AttributeObj* attribute;
+};
+
+bool partsOf(const MPlug& plug, PlugParts* parts) {
+    parts->node = nodeOf(plug.node());
+    parts->attribute = attributeOf(plug.attribute());
+    return parts->node && parts->attribute && parts->attribute->owner == parts->node->type;
+}
+
+bool sameData(const AttributeObj& a, const AttributeObj& b) {
+    using Kind = detail::AttributeKind;
+    if (a.kind != b.kind) return a.kind != Kind::Typed && b.kind != Kind::Typed;
+    if (a.kind == Kind::Typed) return a.dataType == b.dataType && a.typeId == b.typeId;
+    return true;
+}
+
+std::string plugName(const PlugParts& p) { return p.node->name + "." + p.attribute->longName; }
+
+}  // namespace
+
+void reset() {
+    HostState& host = state();
+    host.faults = Faults();
+    unloadAllPlugins();
+    for (NodeObj* node : std::vector<NodeObj*>(host.nodes)) destroyNode(node);
+    host.nodeTypes.clear();
+    host.dataTypes.clear();
+    host.connections.clear();
+    host.messages.clear();
+    host.diagnostics.clear();
+    host.addAttributeCalls = 0;
+    host.attributeAffectsCalls = 0;
+    host.initializing = nullptr;
+    MTime::setUIUnit(MTime::kFilm);
+    host.currentTime = MTime(1.0, MTime::kFilm);
+}
+
+bool findNodeType(const std::string& name, NodeTypeInfo* info) {
+    NodeType* type = findType(name);
+    if (type && info) *info = describe(*type);
+    return type != nullptr;
+}
+
+bool findNodeTypeById(unsigned int id, NodeTypeInfo* info) {
+    NodeType* type = findType(id);
+    if (type && info) *info = describe(*type);
+    return type != nullptr;
+}
+
+bool findAttribute(const std::string& typeName, const std::string& attribute, AttributeInfo* info) {
+    NodeType* type = findType(typeName);
+    AttributeObj* found = type ? type->findAttribute(attribute) : nullptr;
+    if (found && info) *info = describe(*found);
+    return found != nullptr;
+}
+
+std::vector<std::pair<std::string, std::string>> attributeAffects(const std::string& typeName) {
+    std::vector<std::pair<std::string, std::string>> pairs;
+    NodeType* type = findType(typeName);
+    if (!type) return pairs;
+    for (const MObject& handle : type->attributes) {
+        const AttributeObj* cause = attributeOf(handle);
+        for (const AttributeObj* effect : cause->affects)
+            pairs.emplace_back(cause->longName, effect->longName);
+    }
+    return pairs;
+}
+
+MObject createNode(const std::string& typeName, const std::string& name, std::string* error) {
+    NodeType* type = findType(typeName);
+    if (!type) {
+        setError(error, "unknown node type \"" + typeName + "\"");
+        return MObject();
+    }
+    auto* node = new NodeObj;
+    retain(node);
+    node->type = type;
+    node->name = uniqueName(name, typeName);
+    state().nodes.push_back(node);
+    if (type->creator) {
+        node->user = static_cast<MPxNode*>(type->creator());
+        Access::bind(*node->user, node);
+        node->user->postConstructor();
+    }
+    return Access::handle(node);
+}
+
+MStatus deleteNode(const MObject& handle) {
+    NodeObj* node = nodeOf(handle);
+    if (!node) return MStatus::kInvalidParameter;
+    destroyNode(node);
+    return MStatus::kSuccess;
+}
+
+MObject findNode(const std::string& name) {
+    for (NodeObj* node : state().nodes)
+        if (node->name == name) return Access::handle(node);
+    return MObject();
+}
+
+std::string nodeName(const MObject& handle) {
+    NodeObj* node = nodeOf(handle);
+    return node ? node->name : std::string();
+}
+
+MPxNode* userNode(const MObject& handle) {
+    NodeObj* node = nodeOf(handle);
+    return node ? node->user : nullptr;
+}
+
+MPlug findPlug(const MObject& handle, const std::string& attribute) {
+    NodeObj* node = nodeOf(handle);
+    AttributeObj* found = node ? node->type->findAttribute(attribute) : nullptr;
+    if (!found) return MPlug();
+    return MPlug(handle, Access::handle(found));
+}
+
+MStatus compute(const MPlug& plug) {
+    PlugParts parts;
+    if (!partsOf(plug, &parts)) return MStatus::kInvalidParameter;
+    return computePlug(*parts.node, *parts.attribute);
+}
+
+MStatus connect(const MPlug& source, const MPlug& destination, std::string* error) {
+    PlugParts from, to;
+    if (!partsOf(source, &from) || !partsOf(destination, &to)) {
+        setError(error, "connect: both plugs must be attributes of existing nodes");
+        return MStatus::kInvalidParameter;
+    }
+    if (!from.attribute->readable) {
+        setError(error, "connect: " + plugName(from) + " is not readable");
+        return MStatus::kFailure;
+    }
+    if (!to.attribute->writable) {
+        setError(error, "connect: " + plugName(to) + " is not writable");
+        return MStatus::kFailure;
+    }
+    if (!sameData(*from.attribute, *to.attribute)) {
+        setError(error, "connect: " + plugName(from) + " and " + plugName(to) +
+                            " carry different kinds of data");
+        return MStatus::kFailure;
+    }
+    if (incomingConnection(*to.node, *to.attribute)) {
+        setError(error, "connect: " + plugName(to) + " already has an incoming connection");
+        return MStatus::kFailure;
+    }
+    state().connections.push_back(Connection{from.node, from.attribute, to.node, to.attribute});
+    markClean(*to.node, *to.attribute);
+    markDirty(*to.node, *to.attribute);
+    return MStatus::kSuccess;
+}
+
+MStatus disconnect(const MPlug& source, const MPlug& destination, std::string* error) {
+    PlugParts from, to;
+    if (!partsOf(source, &from) || !partsOf(destination, &to)) {
+        setError(error, "disconnect: both plugs must be attributes of existing nodes");
+        return MStatus::kInvalidParameter;
+    }
+    auto& connections = state().connections;
+    auto found = std::find_if(connections.begin(), connections.end(), [&](const Connection& c) {
+        return c.sourceNode == from.node && c.sourceAttribute == from.attribute &&
+               c.destinationNode == to.node && c.destinationAttribute == to.attribute;
+    });
+    if (found == connections.end()) {
+        setError(error, "disconnect: " + plugName(from) + " is not connected to " + plugName(to));
+        return MStatus::kFailure;
+    }
+    connections.erase(found);
+    // The destination keeps the last value it received, as in Maya.
+    const Value last = to.node->slot(*to.attribute).value;
+    assign(*to.node, *to.attribute, last);
+    return MStatus::kSuccess;
+}
+
+void setCurrentTime(const MTime& time) { state().currentTime = time; }
+MTime currentTime() { return state().currentTime; }
+
+std::vector<Message> messages() { return state().messages; }
+void clearMessages() { state().messages.clear(); }
+std::vector<std::string> diagnostics() { return state().diagnostics; }
+
+void setFaults(const Faults& faults) {
+    HostState& host = state();
+    host.faults = faults;
+    host.addAttributeCalls = 0;
+    host.attributeAffectsCalls = 0;
+}
+
+}  // namespace mayahost

@@ -1,0 +1,91 @@
+#include "HostState.h"
+
+#include <algorithm>
+
+namespace mayahost {
+namespace detail {
+
+HostState& state() {
+    static HostState* instance = new HostState;  // outlives plug-ins unloaded at exit
+    return *instance;
+}
+
+NodeType* findType(const std::string& name) {
+    for (auto& type : state().nodeTypes)
+        if (type->name == name) return type.get();
+    return nullptr;
+}
+
+NodeType* findType(unsigned int id) {
+    for (auto& type : state().nodeTypes)
+        if (type->id == id) return type.get();
+    return nullptr;
+}
+
+NodeObj* nodeOf(const MObject& handle) {
+    NodeObj* node = Access::as<NodeObj>(handle);
+    return node && node->alive ? node : nullptr;
+}
+
+AttributeObj* attributeOf(const MObject& handle) { return Access::as<AttributeObj>(handle); }
+
+AttributeObj* NodeType::findAttribute(const std::string& attributeName) const {
+    for (const MObject& handle : attributes) {
+        AttributeObj* attribute = attributeOf(handle);
+        if (attribute->isNamed(attributeName)) return attribute;
+    }
+    return nullptr;
+}
+
+Slot& NodeObj::slot(const AttributeObj& attribute) {
+    auto found = slots.find(&attribute);
+    if (found != slots.end()) return found->second;
+    Slot& fresh = slots[&attribute];
+    fresh.value = attribute.defaultValue;
+    fresh.dirty = attribute.isComputed();
+    return fresh;
+}
+
+void diagnose(const std::string& text) { state().diagnostics.push_back(text); }
+
+bool nextCallFails(int& counter, const std::set<int>& failing) {
+    ++counter;
+    return failing.count(counter) != 0;
+}
+
+void destroyNode(NodeObj* node) {
+    HostState& host = state();
+    auto& connections = host.connections;
+    connections.erase(std::remove_if(connections.begin(), connections.end(),
+                                     [node](const Connection& c) {
+                                         return c.sourceNode == node || c.destinationNode == node;
+                                     }),
+                      connections.end());
+    host.nodes.erase(std::remove(host.nodes.begin(), host.nodes.end(), node), host.nodes.end());
+    MPxNode* user = node->user;
+    node->user = nullptr;
+    node->alive = false;
+    delete user;
+    release(node);
+}
+
+bool removeType(NodeType* type) {
+    HostState& host = state();
+    for (NodeObj* node : host.nodes)
+        if (node->type == type) return false;
+    for (const MObject& handle : type->attributes) {
+        AttributeObj* attribute = attributeOf(handle);
+        attribute->owner = nullptr;
+        attribute->affects.clear();
+        attribute->affectedBy.clear();
+    }
+    auto& types = host.nodeTypes;
+    types.erase(
+        std::remove_if(types.begin(), types.end(),
+                       [type](const std::unique_ptr<NodeType>& t) { return t.get() == type; }),
+        types.end());
+    return true;
+}
+
+}  // namespace detail
+}  // namespace mayahost

@@ -1,0 +1,36 @@
+#pragma once
+#include <maya/MTypes.h>
+
+#include <string>
+#include <vector>
+
+#include "Attribute.h"
+
+namespace mayahost {
+namespace detail {
+
+struct PluginObj;
+
+struct NodeType {
+    std::string name;
+    unsigned int id = 0;
+    MCreatorFunction creator = nullptr;
+    MInitializeFunction initialize = nullptr;
+    MCreatorFunction uiCreator = nullptr;
+    std::string classification;
+    bool isShape = false;
+    bool isDag = false;
+    PluginObj* plugin = nullptr;      // null for the host's own types
+    std::vector<MObject> attributes;  // in the order they were added
+
+    AttributeObj* findAttribute(const std::string& name) const;
+};
+
+struct DataType {
+    std::string name;
+    unsigned int id = 0;
+    PluginObj* plugin = nullptr;
+};
+
+}  // namespace detail
+}  // namespace mayahost
