@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "FakeInterface.h"
+#include "params/DefFloatListParam.h"
+#include "params/DefFloatParam.h"
+#include "params/DefIntParam.h"
+#include "params/DefStringParam.h"
+#include "params/DefVectorParam.h"
+
+using VUtils::VRayPluginParameter;
+
+namespace {
+
+struct InterfaceRow {
+    unsigned long id;
+    const char* name;
+};
+
+const InterfaceRow allInterfaces[] = {
+    {0x77780002, "EXT_TEXTURE"},        {0x7782F8E5, "EXT_TEXTURE_FLOAT"},
+    {0x7782F8E6, "EXT_TEXTURE_VECTOR"}, {0x7782F8E9, "EXT_TEXTURE_TRANSFORM"},
+    {0x7782F8EA, "EXT_TEXTURE_INT"},    {0x77CFFFA6, "EXT_RTTEX"},
+    {0xBABADED3, "EXT_SETTABLE_PARAM"}, {0x77DE0EDC, "EXT_CLONEABLE_PARAM"},
+};
+
+std::vector<std::unique_ptr<VRayPluginParameter>> everyParameterClass() {
+    std::vector<std::unique_ptr<VRayPluginParameter>> params;
+    params.emplace_back(new VUtils::DefIntParam("i", 1));
+    params.emplace_back(new VUtils::DefFloatParam("f", 1.0f));
+    params.emplace_back(new VUtils::DefVectorParam("v"));
+    params.emplace_back(new VUtils::DefStringParam("s"));
+    params.emplace_back(new VUtils::DefFloatListParam("l"));
+    return params;
+}
+
+}  // namespace
+
+TEST(NewInterface, EveryClassAnswersEveryBuiltInIdWithItself) {
+    for (const auto& param : everyParameterClass()) {
+        SCOPED_TRACE(param->getName());
+        for (const InterfaceRow& row : allInterfaces) {
+            SCOPED_TRACE(row.name);
+            PluginInterface* iface = param->newInterface(row.id);
+            ASSERT_NE(nullptr, iface);
+            EXPECT_EQ(row.id, iface->getInterfaceID());
+            EXPECT_STREQ(row.name, iface->getInterfaceName());
+            EXPECT_EQ(static_cast<PluginBase*>(param.get()), iface->getPlugin());
+            // Built-in interfaces are parts of the object: handing one back frees nothing.
+            iface->deleteInterface();
+        }
+    }
+}
+
+TEST(NewInterface, UnknownIdsAreComparedInSixtyFourBits) {
+    const unsigned long unknown[] = {
+        0, EXT_ANIMATEDPARAM, 0xFFFFFFFF, 1ul << 32, (1ul << 32) | EXT_TEXTURE_FLOAT, ~0ul};
+    for (const auto& param : everyParameterClass()) {
+        for (unsigned long id : unknown) {
+            EXPECT_EQ(nullptr, param->newInterface(id)) << param->getName() << " " << id;
+        }
+    }
+}
+
+TEST(NewInterface, AddedInterfacesAreFoundAfterTheBuiltIns) {
+    std::vector<std::string> releases;
+    FakeInterface extra(0x1234, "EXTRA", &releases);
+    FakeInterface shadow(EXT_TEXTURE_FLOAT, "SHADOW", &releases);
+    VUtils::DefFloatParam param("f", 1.0f);
+    EXPECT_EQ(nullptr, param.newInterface(0x1234));
+    EXPECT_TRUE(param.addInterface(&extra, 0));
+    EXPECT_TRUE(param.addInterface(&shadow, 0));
+    EXPECT_EQ(&extra, param.newInterface(0x1234));
+    EXPECT_STREQ("EXT_TEXTURE_FLOAT", param.newInterface(EXT_TEXTURE_FLOAT)->getInterfaceName());
+    EXPECT_TRUE(releases.empty());
+}
+
+TEST(RemoveInterface, TakesTheNewestNodeOnly) {
+    std::vector<std::string> releases;
+    FakeInterface x(0x1234, "x", &releases);
+    {
+        VUtils::DefIntParam param("i", 1);
+        EXPECT_FALSE(param.removeInterface(&x));
+        param.addInterface(&x, 1);
+        param.addInterface(&x, 0);
+        EXPECT_TRUE(param.removeInterface(&x));
+        EXPECT_TRUE(releases.empty());
+        EXPECT_EQ(&x, param.newInterface(0x1234));
+    }
+    // The older node, added with deleteOnDestroy, was the one left.
+    EXPECT_EQ(std::vector<std::string>{"x"}, releases);
+}
+
+TEST(RemoveInterface, UnlinksFromTheMiddleAndReportsMisses) {
+    std::vector<std::string> releases;
+    FakeInterface a(1, "a", &releases);
+    FakeInterface b(2, "b", &releases);
+    FakeInterface c(3, "c", &releases);
+    {
+        VUtils::DefStringParam param("s");
+        param.addInterface(&a, 1);
+        param.addInterface(&b, 1);
+        param.addInterface(&c, 1);
+        EXPECT_TRUE(param.removeInterface(&b));
+        EXPECT_FALSE(param.removeInterface(&b));
+        EXPECT_EQ(nullptr, param.newInterface(2));
+        EXPECT_EQ(&a, param.newInterface(1));
+        EXPECT_EQ(&c, param.newInterface(3));
+    }
+    EXPECT_EQ((std::vector<std::string>{"a", "c"}), releases);
+}
+
+TEST(Destruction, ReleasesOnlyDeleteOnDestroyOldestFirst) {
+    std::vector<std::string> releases;
+    FakeInterface first(1, "first", &releases);
+    FakeInterface none(2, "none", &releases);
+    FakeInterface persistent(3, "persistent", &releases);
+    FakeInterface three(4, "three", &releases);
+    FakeInterface last(5, "last", &releases);
+    {
+        VUtils::DefFloatListParam param("l");
+        param.addInterface(&first, 1);
+        param.addInterface(&none, 0);
+        param.addInterface(&persistent, 2);
+        param.addInterface(&three, 3);
+        param.addInterface(&last, 1);
+    }
+    EXPECT_EQ((std::vector<std::string>{"first", "last"}), releases);
+}
+
+TEST(Destruction, DefaultReleaseHandsTheInterfaceToItsPlugin) {
+    RecordingPlugin owner;
+    OwnedInterface owned(&owner);
+    OwnedInterface orphan(nullptr);
+    {
+        VUtils::DefVectorParam param("v");
+        param.addInterface(&owned, 1);
+        param.addInterface(&orphan, 1);
+    }
+    EXPECT_EQ(std::vector<PluginInterface*>{&owned}, owner.handedBack);
+}
+
+TEST(Destruction, LongInterfaceListsDoNotRecurse) {
+    std::vector<std::string> releases;
+    FakeInterface x(1, "x", &releases);
+    {
+        VUtils::DefIntParam param("i", 0);
+        for (int i = 0; i < 200000; ++i) {
+            param.addInterface(&x, i == 0 ? 1 : 0);
+        }
+    }
+    EXPECT_EQ(std::vector<std::string>{"x"}, releases);
+}
+
+TEST(Clone, StartsWithoutTheAddedInterfaces) {
+    std::vector<std::string> releases;
+    FakeInterface extra(0x1234, "EXTRA", &releases);
+    for (const auto& param : everyParameterClass()) {
+        param->addInterface(&extra, 0);
+        auto* cloneable = static_cast<VUtils::VRayCloneableParamInterface*>(
+            param->newInterface(EXT_CLONEABLE_PARAM));
+        std::unique_ptr<VRayPluginParameter> copy(cloneable->clone());
+        EXPECT_EQ(nullptr, copy->newInterface(0x1234)) << param->getName();
+        EXPECT_EQ(param->getType(0, 0.0), copy->getType(0, 0.0));
+    }
+}
