@@ -1,0 +1,43 @@
+#include "vray/VRayPluginInterface.h"
+
+#include <cstring>
+
+#include "params/VRayPluginParameter.h"
+#include "vray/VRayParameterList.h"
+
+namespace VUtils {
+
+VRayPluginInterface::~VRayPluginInterface() = default;
+
+VRayParameterList* VRayPluginInterface::getParameterList() { return nullptr; }
+
+void VRayPluginInterface::setParameter(VRayPluginParameter* param) {
+    if (VRayParameterList* list = getParameterList()) list->setParameter(param);
+}
+
+void VRayParameterList::setParameter(VRayPluginParameter* param) {
+    if (!param) return;
+    const char* name = param->getName();
+    for (VRayPluginParameter*& entry : params) {
+        if (name && std::strcmp(entry->getName(), name) == 0) {
+            entry = param;
+            return;
+        }
+    }
+    params.push_back(param);
+}
+
+VRayPluginParameter* VRayParameterList::getParam(const char* name) const {
+    for (VRayPluginParameter* param : params)
+        if (name && std::strcmp(param->getName(), name) == 0) return param;
+    return nullptr;
+}
+
+VRayPluginParameter* VRayParameterList::getParam(int index) const {
+    if (index < 0 || index >= getNumParams()) return nullptr;
+    return params[static_cast<size_t>(index)];
+}
+
+int VRayParameterList::getNumParams() const { return static_cast<int>(params.size()); }
+
+}  // namespace VUtils
