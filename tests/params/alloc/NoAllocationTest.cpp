@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include "CountingAllocator.h"
+#include "params/DefFloatListParam.h"
+#include "params/DefFloatParam.h"
+#include "params/DefIntParam.h"
+#include "params/DefStringParam.h"
+#include "params/DefVectorParam.h"
+#include "vray/OCLData.h"
+#include "vray/ShaderSource.h"
+#include "vray/VRayContext.h"
+
+namespace {
+
+// Every getter and texture answer the renderer may call per sample.
+void readEverything(VUtils::DefParamBase& p) {
+    const VUtils::VRayContext context{};
+    volatile float sink = 0.0f;
+    const char* name = nullptr;
+    sink = sink + static_cast<float>(p.getInt(0, 0.0)) + p.getFloat(0, 0.0) +
+           static_cast<float>(p.getDouble(0, 0.0)) + static_cast<float>(p.getBool(0, 0.0));
+    sink = sink + p.getVector(0, 0.0).x + p.getColor(0, 0.0).r + p.getAColor(0, 0.0).alpha;
+    sink = sink + p.getMatrix(0, 0.0).m[0].x + static_cast<float>(p.getTransform(0, 0.0).offs.x);
+    sink = sink + (p.getString(0, 0.0) ? 1.0f : 0.0f) + (p.getObject(0, 0.0, &name) ? 1.0f : 0.0f);
+    sink =
+        sink + static_cast<float>(p.getFloatList(0.0).length + p.getCount(0.0) + p.getType(0, 0.0));
+    sink = sink + p.getTexColor(context).alpha + p.getTexFloat(context) +
+           static_cast<float>(p.getTexInt(context)) + p.getTexVector(context).w +
+           p.getTexTransform(context).offs.x;
+    VUtils::AColor alo{};
+    VUtils::AColor ahi{};
+    p.getTexColorBounds(alo, ahi);
+    float flo = 0.0f;
+    float fhi = 0.0f;
+    p.getTexFloatBounds(flo, fhi);
+    VUtils::simd::Vector3f vlo{};
+    VUtils::simd::Vector3f vhi{};
+    p.getTexVectorBounds(vlo, vhi);
+    sink = sink + p.getColorBumpGradient(context).x + p.getFloatBumpGradient(context).y;
+    for (unsigned long id : {EXT_TEXTURE, EXT_TEXTURE_FLOAT, EXT_TEXTURE_VECTOR, EXT_TEXTURE_INT,
+                             EXT_TEXTURE_TRANSFORM, EXT_RTTEX, EXT_SETTABLE_PARAM,
+                             EXT_CLONEABLE_PARAM, EXT_ANIMATEDPARAM, 0ul}) {
+        sink = sink + (p.newInterface(id) ? 1.0f : 0.0f);
+    }
+}
+
+}  // namespace
+
+TEST(NoAllocation, GettersTextureAnswersAndLookupsAllocateNothing) {
+    VUtils::DefIntParam i("i", 3);
+    VUtils::DefFloatParam f("f", 0.5f);
+    VUtils::DefVectorParam v("v");
+    VUtils::DefStringParam s("s");
+    s.setString("abc", 0, 0.0);
+    VUtils::DefFloatListParam l("l");
+    for (int k = 0; k < 10; ++k) {
+        l.setFloat(static_cast<float>(k), -1, 0.0);
+    }
+    VUtils::DefParamBase* params[] = {&i, &f, &v, &s, &l};
+    for (VUtils::DefParamBase* p : params) {
+        const std::size_t before = heapAllocations();
+        readEverything(*p);
+        EXPECT_EQ(before, heapAllocations()) << p->getName();
+    }
+}
+
+TEST(NoAllocation, ShaderSourceAllocatesOnlyForTheRendererBuffer) {
+    VUtils::DefFloatParam f("f", 0.5f);
+    VUtils::ShaderSource source;
+    source.text.reserve(256);
+    const std::size_t before = heapAllocations();
+    EXPECT_TRUE(f.getSource("", "", "MaterialDescriptor", source, VUtils::OCLData{}));
+    EXPECT_EQ(before, heapAllocations());
+}
+
+TEST(NoAllocation, TheCounterSeesAllocations) {
+    const std::size_t before = heapAllocations();
+    VUtils::DefStringParam s("s");
+    s.setString("abc", 0, 0.0);
+    EXPECT_EQ(before + 2, heapAllocations());
+}
