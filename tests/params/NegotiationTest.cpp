@@ -16,18 +16,6 @@ using VUtils::VRayPluginParameter;
 
 namespace {
 
-struct InterfaceRow {
-    unsigned long id;
-    const char* name;
-};
-
-const InterfaceRow allInterfaces[] = {
-    {0x77780002, "EXT_TEXTURE"},        {0x7782F8E5, "EXT_TEXTURE_FLOAT"},
-    {0x7782F8E6, "EXT_TEXTURE_VECTOR"}, {0x7782F8E9, "EXT_TEXTURE_TRANSFORM"},
-    {0x7782F8EA, "EXT_TEXTURE_INT"},    {0x77CFFFA6, "EXT_RTTEX"},
-    {0xBABADED3, "EXT_SETTABLE_PARAM"}, {0x77DE0EDC, "EXT_CLONEABLE_PARAM"},
-};
-
 std::vector<std::unique_ptr<VRayPluginParameter>> everyParameterClass() {
     std::vector<std::unique_ptr<VRayPluginParameter>> params;
     params.emplace_back(new VUtils::DefIntParam("i", 1));
@@ -39,22 +27,6 @@ std::vector<std::unique_ptr<VRayPluginParameter>> everyParameterClass() {
 }
 
 }  // namespace
-
-TEST(NewInterface, EveryClassAnswersEveryBuiltInIdWithItself) {
-    for (const auto& param : everyParameterClass()) {
-        SCOPED_TRACE(param->getName());
-        for (const InterfaceRow& row : allInterfaces) {
-            SCOPED_TRACE(row.name);
-            PluginInterface* iface = param->newInterface(row.id);
-            ASSERT_NE(nullptr, iface);
-            EXPECT_EQ(row.id, iface->getInterfaceID());
-            EXPECT_STREQ(row.name, iface->getInterfaceName());
-            EXPECT_EQ(static_cast<PluginBase*>(param.get()), iface->getPlugin());
-            // Built-in interfaces are parts of the object: handing one back frees nothing.
-            iface->deleteInterface();
-        }
-    }
-}
 
 TEST(NewInterface, UnknownIdsAreComparedInSixtyFourBits) {
     const unsigned long unknown[] = {

@@ -74,21 +74,6 @@ TEST(DefFloatParam, ReadsEveryKind) {
     EXPECT_EQ(0.25f, constant);
 }
 
-TEST(DefIntParam, ReadsEveryKind) {
-    DefIntParam p("i", -3);
-    EXPECT_EQ(-3, p.getInt(0, 0.0));
-    EXPECT_EQ(-3.0f, p.getFloat(0, 0.0));
-    EXPECT_EQ(-3.0, p.getDouble(0, 0.0));
-    EXPECT_EQ(1, p.getBool(0, 0.0));
-    EXPECT_EQ(0, p.getType(0, 0.0));
-    EXPECT_EQ(0.0f, p.getColor(0, 0.0).r);
-    EXPECT_EQ(0.0f, p.getAColor(0, 0.0).alpha);
-    EXPECT_EQ(-3.0f, p.getTexFloat(VUtils::VRayContext{}));
-    EXPECT_EQ(-3, p.getTexInt(VUtils::VRayContext{}));
-    p.setInt(0, 0, 0.0);
-    EXPECT_EQ(0, p.getBool(0, 0.0));
-}
-
 struct IntWriteRow {
     const char* what;
     void (*write)(DefIntParam&);

@@ -60,19 +60,6 @@ void expectEmpty(const Array<T>& list) {
     EXPECT_EQ(0, list.owner);
 }
 
-// An interface the renderer attaches to a parameter of its own accord.
-class RendererInterface : public rview::Interface {
-public:
-    explicit RendererInterface(std::vector<std::string>* log) : log(log) {}
-    unsigned long id() override { return 0x5151; }
-    rview::Plugin* plugin() override { return nullptr; }
-    const char* name() override { return "RENDERER_EXTRA"; }
-    void release() override { log->push_back("released"); }
-
-private:
-    std::vector<std::string>* log;
-};
-
 }  // namespace
 
 TEST(RendererView, EveryBuiltInInterfaceReportsItselfAndItsObject) {
@@ -107,21 +94,6 @@ TEST(RendererView, EveryBuiltInInterfaceReportsItselfAndItsObject) {
         }
         EXPECT_EQ(nullptr, object->query(0x7792855D));
     }
-}
-
-TEST(RendererView, AttachedInterfacesAreFoundDetachedAndReleased) {
-    std::vector<std::string> log;
-    RendererInterface extra(&log);
-    {
-        auto param = adopt<Parameter>(viewfactory::newStringParam("s"));
-        EXPECT_FALSE(param->detach(&extra));
-        EXPECT_TRUE(param->attach(&extra, 1));
-        EXPECT_TRUE(param->attach(&extra, 1));
-        EXPECT_EQ(&extra, param->query(0x5151));
-        EXPECT_TRUE(param->detach(&extra));
-        EXPECT_EQ(&extra, param->query(0x5151));
-    }
-    EXPECT_EQ(std::vector<std::string>{"released"}, log);
 }
 
 TEST(RendererView, ParameterSlotsOfAnIntegerAnswerAsTheTableSays) {
@@ -337,12 +309,6 @@ TEST(RendererView, TextureInterfacesOfAFloat) {
     EXPECT_TRUE(rttex->source("a", "b", "MaterialDescriptor", source, ocl));
     EXPECT_FALSE(rttex->source("a", "b", "MaterialDescriptorX", source, ocl));
     EXPECT_EQ("color -2.500000 -2.500000 -2.500000 -2.500000\n", source.text);
-}
-
-TEST(RendererView, TextureIntInterfaceOfAnInteger) {
-    auto param = adopt<Parameter>(viewfactory::newIntParam("i", 12));
-    EXPECT_EQ(12, query<rview::IntTexture>(*param, intTextureId)->value(context));
-    EXPECT_EQ(12.0f, query<rview::FloatTexture>(*param, floatTextureId)->value(context));
 }
 
 namespace {
