@@ -1,0 +1,63 @@
+#include "ParameterReader.h"
+
+#include "params/VRayPluginParameter.h"
+
+namespace vrayrender {
+
+bool RecordedValue::operator==(const RecordedValue& o) const {
+    return kind == o.kind && intValue == o.intValue && number == o.number &&
+           vector[0] == o.vector[0] && vector[1] == o.vector[1] && vector[2] == o.vector[2] &&
+           isNull == o.isNull && text == o.text && list == o.list;
+}
+
+RecordedValue readParameter(VUtils::VRayPluginParameter& parameter, double time) {
+    RecordedValue value;
+    switch (parameter.getType(0, time)) {
+        case VUtils::paramTypeInt:
+            value.kind = RecordedValue::Kind::Int;
+            value.intValue = parameter.getInt(0, time);
+            break;
+        case VUtils::paramTypeFloat:
+            if (parameter.getCount(time) >= 0) {
+                value.kind = RecordedValue::Kind::FloatList;
+                const VUtils::PtrArray<float> list = parameter.getFloatList(time);
+                for (int i = 0; i < list.length; ++i) value.list.push_back(list.ptr[i]);
+            } else {
+                value.kind = RecordedValue::Kind::Float;
+                value.number = parameter.getFloat(0, time);
+            }
+            break;
+        case VUtils::paramTypeDouble:
+            value.kind = RecordedValue::Kind::Double;
+            value.number = parameter.getDouble(0, time);
+            break;
+        case VUtils::paramTypeVector: {
+            value.kind = RecordedValue::Kind::Vector;
+            const VUtils::Vector v = parameter.getVector(0, time);
+            value.vector[0] = v.x;
+            value.vector[1] = v.y;
+            value.vector[2] = v.z;
+            break;
+        }
+        case VUtils::paramTypeColor: {
+            value.kind = RecordedValue::Kind::Color;
+            const VUtils::Color c = parameter.getColor(0, time);
+            value.vector[0] = c.r;
+            value.vector[1] = c.g;
+            value.vector[2] = c.b;
+            break;
+        }
+        case VUtils::paramTypeString: {
+            value.kind = RecordedValue::Kind::String;
+            const char* text = parameter.getString(0, time);
+            value.isNull = text == nullptr;
+            if (text) value.text = text;
+            break;
+        }
+        default:
+            break;
+    }
+    return value;
+}
+
+}  // namespace vrayrender

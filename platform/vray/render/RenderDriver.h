@@ -1,0 +1,54 @@
+#pragma once
+#include <maya/MObject.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "GeomRequest.h"
+#include "RenderRecord.h"
+#include "RenderSettings.h"
+
+namespace VUtils {
+class AnimatedParameterInterface;
+class VRayPluginParameter;
+}  // namespace VUtils
+
+namespace vrayrender {
+
+// Renders the stand-in host's scene as V-Ray for Maya does: translates every custom geometry
+// node at each frame, drives the keyframes of the animated parameters over the motion-blur
+// samples, and records what each plugin instance receives.
+class RenderDriver {
+public:
+    // Without a registry no renderer is available to the geometry nodes.
+    explicit RenderDriver(VUtils::PluginRegistry* registry);
+    ~RenderDriver();
+
+    RenderRecord render(const RenderSettings& settings);
+
+private:
+    struct Source {
+        MObject node;
+        std::string name;
+        std::unique_ptr<GeomRequest> request;
+    };
+    struct Parameter {
+        VUtils::VRayPluginParameter* parameter;
+        VUtils::AnimatedParameterInterface* animation;  // null for constant parameters
+    };
+
+    void findSources(bool reuseInstances);
+    void translate(Source& source);
+    void renderFrame(double frame, RenderRecord& record);
+    RecordedInstance sampleInstance(Source& source, const std::vector<double>& times);
+    std::vector<Parameter> parametersOf(VUtils::VRayPlugin* plugin) const;
+    void finishRender();
+
+    VUtils::PluginRegistry* registry;
+    std::vector<Source> sources;
+    std::vector<VUtils::VRayPlugin*> rendered;  // every instance driven so far
+    int instanceCounter = 0;
+};
+
+}  // namespace vrayrender
