@@ -8,6 +8,7 @@
 namespace mayahost {
 namespace detail {
 
+struct NodeObj;
 struct NodeType;
 
 enum class AttributeKind { Numeric, Typed, Unit };
@@ -31,7 +32,8 @@ struct AttributeObj : Object {
     bool array = false;
     bool affectsWorldSpace = false;
 
-    NodeType* owner = nullptr;  // set when added to a node type
+    NodeType* owner = nullptr;              // set when added to a node type
+    const NodeObj* dynamicOwner = nullptr;  // set when added to one node as a dynamic attribute
     std::vector<AttributeObj*> affects;
     std::vector<AttributeObj*> affectedBy;
 

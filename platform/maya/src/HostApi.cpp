@@ -1,8 +1,12 @@
 #include <mayahost/Host.h>
 
+#include <maya/MPxSurfaceShape.h>
+
 #include <algorithm>
 
+#include "BuiltinTypes.h"
 #include "DataObj.h"
+#include "Dag.h"
 #include "Graph.h"
 
 namespace mayahost {
@@ -71,6 +75,25 @@ std::string uniqueName(const std::string& requested, const std::string& typeName
     }
 }
 
+NodeObj* makeNode(NodeType& type, const std::string& name, NodeObj* parent) {
+    auto* node = new NodeObj;
+    retain(node);
+    node->type = &type;
+    node->name = uniqueName(name, type.name);
+    state().nodes.push_back(node);
+    if (type.isDag) setParent(*node, parent);
+    if (type.creator) {
+        node->user = static_cast<MPxNode*>(type.creator());
+        Access::bind(*node->user, node);
+        node->user->postConstructor();
+    }
+    if (type.uiCreator) {
+        node->ui = static_cast<MPxSurfaceShapeUI*>(type.uiCreator());
+        Access::bind(*node->ui, static_cast<MPxSurfaceShape*>(node->user));
+    }
+    return node;
+}
+
 struct PlugParts {
     NodeObj* node;
     AttributeObj* attribute;
@@ -79,7 +102,7 @@ struct PlugParts {
 bool partsOf(const MPlug& plug, PlugParts* parts) {
     parts->node = nodeOf(plug.node());
     parts->attribute = attributeOf(plug.attribute());
-    return parts->node && parts->attribute && parts->attribute->owner == parts->node->type;
+    return parts->node && parts->attribute && parts->node->has(*parts->attribute);
 }
 
 bool sameData(const AttributeObj& a, const AttributeObj& b) {
@@ -87,6 +110,21 @@ bool sameData(const AttributeObj& a, const AttributeObj& b) {
     if (a.kind != b.kind) return a.kind != Kind::Typed && b.kind != Kind::Typed;
     if (a.kind == Kind::Typed) return a.dataType == b.dataType && a.typeId == b.typeId;
     return true;
+}
+
+bool dataTypeKnown(const AttributeObj& attribute) {
+    return attribute.kind != detail::AttributeKind::Typed || attribute.typeId == 0 ||
+           findDataType(attribute.typeId) != nullptr;
+}
+
+// "node.attribute" as MEL writes it.
+MPlug plugNamed(const std::string& name, std::string* error) {
+    const std::size_t dot = name.find('.');
+    MPlug plug;
+    if (dot != std::string::npos)
+        plug = findPlug(findNode(name.substr(0, dot)), name.substr(dot + 1));
+    if (plug.isNull()) setError(error, "no plug named \"" + name + "\"");
+    return plug;
 }
 
 std::string plugName(const PlugParts& p) { return p.node->name + "." + p.attribute->longName; }
@@ -97,7 +135,7 @@ void reset() {
     HostState& host = state();
     host.faults = Faults();
     unloadAllPlugins();
-    for (NodeObj* node : std::vector<NodeObj*>(host.nodes)) destroyNode(node);
+    destroyNodesWhere([](const NodeObj&) { return true; });
     host.nodeTypes.clear();
     host.dataTypes.clear();
     host.connections.clear();
@@ -108,6 +146,7 @@ void reset() {
     host.initializing = nullptr;
     MTime::setUIUnit(MTime::kFilm);
     host.currentTime = MTime(1.0, MTime::kFilm);
+    startHost();
 }
 
 bool findNodeType(const std::string& name, NodeTypeInfo* info) {
@@ -119,6 +158,13 @@ bool findNodeType(const std::string& name, NodeTypeInfo* info) {
 bool findNodeTypeById(unsigned int id, NodeTypeInfo* info) {
     NodeType* type = findType(id);
     if (type && info) *info = describe(*type);
+    return type != nullptr;
+}
+
+bool findDataTypeById(unsigned int id, DataTypeInfo* info) {
+    DataType* type = findDataType(id);
+    if (type && info)
+        *info = DataTypeInfo{type->name, type->id, type->plugin ? type->plugin->path : ""};
     return type != nullptr;
 }
 
@@ -143,21 +189,26 @@ std::vector<std::pair<std::string, std::string>> attributeAffects(const std::str
 
 MObject createNode(const std::string& typeName, const std::string& name, std::string* error) {
     NodeType* type = findType(typeName);
+    if (type && type->isDag && !type->isTransform) {
+        MObject transform = createNode("transform", "", error);
+        return createNode(typeName, name, transform, error);
+    }
+    return createNode(typeName, name, MObject(), error);
+}
+
+MObject createNode(const std::string& typeName, const std::string& name, const MObject& parent,
+                   std::string* error) {
+    NodeType* type = findType(typeName);
     if (!type) {
         setError(error, "unknown node type \"" + typeName + "\"");
         return MObject();
     }
-    auto* node = new NodeObj;
-    retain(node);
-    node->type = type;
-    node->name = uniqueName(name, typeName);
-    state().nodes.push_back(node);
-    if (type->creator) {
-        node->user = static_cast<MPxNode*>(type->creator());
-        Access::bind(*node->user, node);
-        node->user->postConstructor();
+    NodeObj* above = nodeOf(parent);
+    if (!parent.isNull() && (!above || !above->type->isTransform || !type->isDag)) {
+        setError(error, "createNode: a " + typeName + " cannot be placed under that parent");
+        return MObject();
     }
-    return Access::handle(node);
+    return Access::handle(makeNode(*type, name, above));
 }
 
 MStatus deleteNode(const MObject& handle) {
@@ -185,7 +236,7 @@ MPxNode* userNode(const MObject& handle) {
 
 MPlug findPlug(const MObject& handle, const std::string& attribute) {
     NodeObj* node = nodeOf(handle);
-    AttributeObj* found = node ? node->type->findAttribute(attribute) : nullptr;
+    AttributeObj* found = node ? node->findAttribute(attribute) : nullptr;
     if (!found) return MPlug();
     return MPlug(handle, Access::handle(found));
 }
@@ -213,6 +264,10 @@ MStatus connect(const MPlug& source, const MPlug& destination, std::string* erro
     if (!sameData(*from.attribute, *to.attribute)) {
         setError(error, "connect: " + plugName(from) + " and " + plugName(to) +
                             " carry different kinds of data");
+        return MStatus::kFailure;
+    }
+    if (!dataTypeKnown(*to.attribute)) {
+        setError(error, "connect: the data type of " + plugName(to) + " is not registered");
         return MStatus::kFailure;
     }
     if (incomingConnection(*to.node, *to.attribute)) {
@@ -247,7 +302,32 @@ MStatus disconnect(const MPlug& source, const MPlug& destination, std::string* e
     return MStatus::kSuccess;
 }
 
-void setCurrentTime(const MTime& time) { state().currentTime = time; }
+MStatus connectAttr(const std::string& source, const std::string& destination, std::string* error) {
+    const MPlug from = plugNamed(source, error);
+    const MPlug to = plugNamed(destination, error);
+    if (from.isNull() || to.isNull()) return MStatus::kInvalidParameter;
+    return connect(from, to, error);
+}
+
+MStatus disconnectAttr(const std::string& source, const std::string& destination,
+                       std::string* error) {
+    const MPlug from = plugNamed(source, error);
+    const MPlug to = plugNamed(destination, error);
+    if (from.isNull() || to.isNull()) return MStatus::kInvalidParameter;
+    return disconnect(from, to, error);
+}
+
+void setCurrentTime(const MTime& time) {
+    HostState& host = state();
+    host.currentTime = time;
+    Value value;
+    value.setTime(MTime(time.as(MTime::uiUnit()), MTime::uiUnit()));
+    for (NodeObj* node : std::vector<NodeObj*>(host.nodes)) {
+        if (node->type->name != "time") continue;
+        if (const AttributeObj* outTime = node->findAttribute("outTime"))
+            assign(*node, *outTime, value);
+    }
+}
 MTime currentTime() { return state().currentTime; }
 
 std::vector<Message> messages() { return state().messages; }

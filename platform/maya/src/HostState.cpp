@@ -2,11 +2,18 @@
 
 #include <algorithm>
 
+#include "BuiltinTypes.h"
+#include "Dag.h"
+
 namespace mayahost {
 namespace detail {
 
 HostState& state() {
     static HostState* instance = new HostState;  // outlives plug-ins unloaded at exit
+    if (!instance->started) {
+        instance->started = true;  // set first: starting the host calls back in here
+        startHost();
+    }
     return *instance;
 }
 
@@ -19,6 +26,18 @@ NodeType* findType(const std::string& name) {
 NodeType* findType(unsigned int id) {
     for (auto& type : state().nodeTypes)
         if (type->id == id) return type.get();
+    return nullptr;
+}
+
+DataType* findDataType(const std::string& name) {
+    for (DataType& type : state().dataTypes)
+        if (type.name == name) return &type;
+    return nullptr;
+}
+
+DataType* findDataType(unsigned int id) {
+    for (DataType& type : state().dataTypes)
+        if (type.id == id) return &type;
     return nullptr;
 }
 
@@ -46,6 +65,19 @@ Slot& NodeObj::slot(const AttributeObj& attribute) {
     return fresh;
 }
 
+AttributeObj* NodeObj::findAttribute(const std::string& attributeName) const {
+    if (AttributeObj* found = type->findAttribute(attributeName)) return found;
+    for (const MObject& handle : dynamicAttributes) {
+        AttributeObj* attribute = attributeOf(handle);
+        if (attribute->isNamed(attributeName)) return attribute;
+    }
+    return nullptr;
+}
+
+bool NodeObj::has(const AttributeObj& attribute) const {
+    return attribute.owner == type || attribute.dynamicOwner == this;
+}
+
 void diagnose(const std::string& text) { state().diagnostics.push_back(text); }
 
 bool nextCallFails(int& counter, const std::set<int>& failing) {
@@ -54,6 +86,8 @@ bool nextCallFails(int& counter, const std::set<int>& failing) {
 }
 
 void destroyNode(NodeObj* node) {
+    while (!node->children.empty()) destroyNode(node->children.back());
+    detachFromParent(*node);
     HostState& host = state();
     auto& connections = host.connections;
     connections.erase(std::remove_if(connections.begin(), connections.end(),
@@ -62,10 +96,17 @@ void destroyNode(NodeObj* node) {
                                      }),
                       connections.end());
     host.nodes.erase(std::remove(host.nodes.begin(), host.nodes.end(), node), host.nodes.end());
+    delete node->ui;  // the viewport object goes before the shape it refers to
+    node->ui = nullptr;
     MPxNode* user = node->user;
     node->user = nullptr;
     node->alive = false;
     delete user;
+    // Values may hold data made by the plug-in; they must go while its code is loaded.
+    node->slots.clear();
+    for (const MObject& handle : node->dynamicAttributes)
+        attributeOf(handle)->dynamicOwner = nullptr;
+    node->dynamicAttributes.clear();
     release(node);
 }
 

@@ -32,12 +32,15 @@ struct HostState {
     int attributeAffectsCalls = 0;
     NodeType* initializing = nullptr;  // the type whose attribute initialiser is running
     MTime currentTime{1.0, MTime::kFilm};
+    bool started = false;  // built-in types and default nodes are in place
 };
 
 HostState& state();
 
 NodeType* findType(const std::string& name);
 NodeType* findType(unsigned int id);
+DataType* findDataType(const std::string& name);
+DataType* findDataType(unsigned int id);
 NodeObj* nodeOf(const MObject& handle);
 AttributeObj* attributeOf(const MObject& handle);
 void diagnose(const std::string& text);
@@ -46,7 +49,19 @@ bool nextCallFails(int& counter, const std::set<int>& failing);
 
 // Removes a node type with everything that refers to it; false when nodes of it still exist.
 bool removeType(NodeType* type);
+// Destroys the node and everything below it in the DAG.
 void destroyNode(NodeObj* node);
+// Destroys every node for which the predicate holds, however the DAG links them.
+template <class Predicate>
+void destroyNodesWhere(Predicate predicate) {
+    for (;;) {
+        NodeObj* doomed = nullptr;
+        for (NodeObj* node : state().nodes)
+            if (predicate(*node)) doomed = node;
+        if (!doomed) return;
+        destroyNode(doomed);
+    }
+}
 
 }  // namespace detail
 }  // namespace mayahost

@@ -1,8 +1,11 @@
 #pragma once
 #include <maya/MPxNode.h>
+#include <maya/MPxSurfaceShapeUI.h>
+#include <mayahost/Host.h>
 
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "Attribute.h"
 #include "NodeType.h"
@@ -19,11 +22,19 @@ struct Slot {
 struct NodeObj : Object {
     NodeType* type = nullptr;
     std::string name;
-    MPxNode* user = nullptr;  // the plug-in's node object; null for the host's own node types
+    MPxNode* user = nullptr;          // the plug-in's node object; null for the host's own types
+    MPxSurfaceShapeUI* ui = nullptr;  // the legacy viewport object of a plug-in shape
     bool alive = true;
+    NodeObj* parent = nullptr;       // DAG parent; null under the world
+    std::vector<NodeObj*> children;  // DAG children, in the order they were parented
+    std::vector<MObject> dynamicAttributes;
+    MaterialSettings material;  // the shading assigned to a shape
     std::unordered_map<const AttributeObj*, Slot> slots;
 
     Slot& slot(const AttributeObj& attribute);
+    // Static attributes of the type first, then the node's dynamic ones.
+    AttributeObj* findAttribute(const std::string& name) const;
+    bool has(const AttributeObj& attribute) const;
 };
 
 }  // namespace detail

@@ -20,6 +20,7 @@ struct NodeType {
     std::string classification;
     bool isShape = false;
     bool isDag = false;
+    bool isTransform = false;
     PluginObj* plugin = nullptr;      // null for the host's own types
     std::vector<MObject> attributes;  // in the order they were added
 
@@ -29,6 +30,8 @@ struct NodeType {
 struct DataType {
     std::string name;
     unsigned int id = 0;
+    MCreatorFunction creator = nullptr;
+    int kind = 0;  // MPxData::Type
     PluginObj* plugin = nullptr;
 };
 

@@ -6,6 +6,9 @@
 #include <maya/MPxNode.h>
 
 namespace mayahost {
+struct MaterialSettings;
+struct QueuedRequest;
+
 namespace detail {
 
 // Reference counted by the MObject handles that point at it; the host keeps its own reference
@@ -43,6 +46,23 @@ struct Access {
     static T* as(const MObject& handle) {
         return dynamic_cast<T*>(handle.fObj);
     }
+
+    // DAG paths and the legacy viewport (Viewport.cpp, api/MDagPath.cpp).
+    static MDagPath dagPath(Object* node);
+    static Object* node(const MDagPath& path);
+    static void bind(MPxSurfaceShapeUI& ui, MPxSurfaceShape* shape);
+    static M3dView view(unsigned int id);
+    static void setUp(MDrawInfo& info, const MDagPath& path, const M3dView& view, int style,
+                      int status, unsigned int shownObjects);
+    static void setUp(MSelectInfo& info, const MDagPath& path, bool singleSelection);
+    static SelectionRecord& record(const MSelectInfo& info);
+    static SelectionItems& items(const MSelectionList& list);
+    static unsigned long long types(const MSelectionMask& mask);
+    static void assign(MDrawData& to, const MDrawData& from);
+    static void setGeometry(MDrawData& data, const void* geometry);
+    static void markTextureEvaluated(MDrawData& data);
+    static MMaterial material(const MaterialSettings& settings);
+    static QueuedRequest describe(const MDrawRequest& request);
 };
 
 }  // namespace detail

@@ -26,8 +26,7 @@ std::string lastDlError() {
 }
 
 void destroyNodesOf(PluginObj* plugin) {
-    for (NodeObj* node : std::vector<NodeObj*>(state().nodes))
-        if (node->type->plugin == plugin) destroyNode(node);
+    destroyNodesWhere([plugin](const NodeObj& node) { return node.type->plugin == plugin; });
 }
 
 // Whatever a plug-in left registered goes with it.

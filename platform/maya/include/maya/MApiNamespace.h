@@ -44,6 +44,7 @@ class MPlug;
 class MPlugArray;
 class MPoint;
 class MPointArray;
+class MPxData;
 class MPxNode;
 class MPxSurfaceShape;
 class MPxSurfaceShapeUI;
@@ -84,6 +85,7 @@ using Autodesk::Maya::OpenMaya20220000::MPlug;
 using Autodesk::Maya::OpenMaya20220000::MPlugArray;
 using Autodesk::Maya::OpenMaya20220000::MPoint;
 using Autodesk::Maya::OpenMaya20220000::MPointArray;
+using Autodesk::Maya::OpenMaya20220000::MPxData;
 using Autodesk::Maya::OpenMaya20220000::MPxNode;
 using Autodesk::Maya::OpenMaya20220000::MPxSurfaceShape;
 using Autodesk::Maya::OpenMaya20220000::MPxSurfaceShapeUI;
@@ -99,6 +101,9 @@ using Autodesk::Maya::OpenMaya20220000::MTypeId;
 namespace mayahost {
 namespace detail {
 struct Access;
+struct DrawQueue;
 struct Object;
+struct SelectionItems;
+struct SelectionRecord;
 }  // namespace detail
 }  // namespace mayahost

@@ -1,4 +1,5 @@
 #pragma once
+#include <maya/MMatrix.h>
 #include <maya/MPoint.h>
 
 OPENMAYA_NAMESPACE_OPEN
@@ -15,6 +16,8 @@ public:
     void expand(const MPoint& point);
     void expand(const MBoundingBox& box);
     bool contains(const MPoint& point) const;
+    // Replaces the box by the box around its eight corners carried through the matrix.
+    MStatus transformUsing(const MMatrix& matrix);
     double width() const;
     double height() const;
     double depth() const;

@@ -1,5 +1,7 @@
 #pragma once
 #include <maya/MFnBase.h>
+#include <maya/MPxData.h>
+#include <maya/MPxNode.h>
 #include <maya/MString.h>
 #include <maya/MTypeId.h>
 #include <maya/MApiVersion.h>
@@ -22,7 +24,14 @@ public:
                           MCreatorFunction creatorFunction, MInitializeFunction initFunction,
                           MCreatorFunction uiCreatorFunction = NULL,
                           const MString* classification = NULL);
+    MStatus registerNode(const MString& typeName, const MTypeId& typeId,
+                         MCreatorFunction creatorFunction, MInitializeFunction initFunction,
+                         MPxNode::Type type = MPxNode::kDependNode,
+                         const MString* classification = NULL);
     MStatus deregisterNode(const MTypeId& typeId);
+    MStatus registerData(const MString& typeName, const MTypeId& typeId,
+                         MCreatorFunction creatorFunction, MPxData::Type type = MPxData::kData);
+    MStatus deregisterData(const MTypeId& typeId);
 };
 
 OPENMAYA_NAMESPACE_CLOSE

@@ -10,6 +10,9 @@ public:
     MPoint(const MPoint& other) = default;
     MPoint& operator=(const MPoint& other) = default;
 
+    // The point as a row vector times the matrix; w takes part and is not divided out.
+    MPoint operator*(const MMatrix& right) const;
+    MPoint& operator*=(const MMatrix& right);
     bool operator==(const MPoint& other) const;
     bool operator!=(const MPoint& other) const;
 

@@ -1,9 +1,13 @@
 #pragma once
+#include <maya/MDagPath.h>
+#include <maya/MDrawData.h>
+#include <maya/MMaterial.h>
 #include <maya/MTypes.h>
 
 OPENMAYA_NAMESPACE_OPEN
 
-// Legacy viewport interface of a surface shape. Maya binds each UI object to its shape node.
+// Legacy viewport interface of a surface shape. The host makes one per shape node and binds it
+// to that node.
 class OPENMAYA_EXPORT MPxSurfaceShapeUI {
 public:
     MPxSurfaceShapeUI();
@@ -17,6 +21,9 @@ public:
     virtual bool snap(MSelectInfo& snapInfo) const;
     virtual bool canDrawUV() const;
 
+    void getDrawData(const void* geom, MDrawData& drawData);
+    // The material assigned to the shape instance on the path.
+    MMaterial material(MDagPath& path) const;
     MPxSurfaceShape* surfaceShape() const;
 
     MPxSurfaceShapeUI(const MPxSurfaceShapeUI&) = delete;

@@ -1,8 +1,10 @@
 #pragma once
 // The stand-in host's own API: what Maya's UI and scripting would do, for tests and tools.
 // Not part of Maya's API.
+#include <maya/M3dView.h>
 #include <maya/MObject.h>
 #include <maya/MPlug.h>
+#include <maya/MPoint.h>
 #include <maya/MStatus.h>
 #include <maya/MTime.h>
 
@@ -12,7 +14,8 @@
 
 namespace mayahost {
 
-// Drops every node, plug-in, registration, message and fault: a fresh host.
+// Drops every node, plug-in, registration, message and fault: a fresh host. A fresh host has
+// Maya's built-in node types "transform", "time" and "mesh", and the scene time node "time1".
 void reset();
 
 struct PluginLoad {
@@ -47,6 +50,13 @@ struct NodeTypeInfo {
 bool findNodeType(const std::string& name, NodeTypeInfo* info = nullptr);
 bool findNodeTypeById(unsigned int id, NodeTypeInfo* info = nullptr);
 
+struct DataTypeInfo {
+    std::string name;
+    unsigned int id = 0;
+    std::string pluginPath;
+};
+bool findDataTypeById(unsigned int id, DataTypeInfo* info = nullptr);
+
 enum class AttributeKind { Numeric, Typed, Unit };
 
 struct AttributeInfo {
@@ -74,9 +84,14 @@ bool findAttribute(const std::string& typeName, const std::string& attribute,
 // (whenChanges, isAffected) long-name pairs declared with attributeAffects, in order.
 std::vector<std::pair<std::string, std::string>> attributeAffects(const std::string& typeName);
 
-// Creates a node through its type's creator, then calls postConstructor.
+// Creates a node through its type's creator, then calls postConstructor. A shape or other
+// non-transform DAG node created this way gets a new transform as its parent, as in Maya.
 MObject createNode(const std::string& typeName, const std::string& name = "",
                    std::string* error = nullptr);
+// Creates a DAG node under a transform.
+MObject createNode(const std::string& typeName, const std::string& name, const MObject& parent,
+                   std::string* error = nullptr);
+// Deleting a transform deletes what lies below it; deleting a shape leaves its transform.
 MStatus deleteNode(const MObject& node);
 MObject findNode(const std::string& name);
 std::string nodeName(const MObject& node);
@@ -86,11 +101,71 @@ MPlug findPlug(const MObject& node, const std::string& attribute);
 // Calls the node's compute for the plug directly, with the node's data block.
 MStatus compute(const MPlug& plug);
 
+// Connections carry values from source to destination. Typed attributes connect only with the
+// same kind of data; for a plug-in data type that type must be registered when the connection
+// is made (a node type may name a data type that another plug-in registers later).
 MStatus connect(const MPlug& source, const MPlug& destination, std::string* error = nullptr);
 MStatus disconnect(const MPlug& source, const MPlug& destination, std::string* error = nullptr);
+// The same with "node.attribute" names, as MEL's connectAttr and disconnectAttr take them.
+MStatus connectAttr(const std::string& source, const std::string& destination,
+                    std::string* error = nullptr);
+MStatus disconnectAttr(const std::string& source, const std::string& destination,
+                       std::string* error = nullptr);
 
+// The scene time. Every "time" node's outTime follows it, in the UI time unit (Maya's
+// default: film, 24 frames per second).
 void setCurrentTime(const MTime& time);
 MTime currentTime();
+
+// The legacy viewport. The material assigned to a shape decides how shaded display evaluates;
+// a shape without an assignment has a default material that evaluates and is neither textured
+// nor transparent.
+struct MaterialSettings {
+    bool evaluates = true;
+    bool textured = false;
+    bool transparent = false;
+};
+MStatus assignMaterial(const MObject& shape, const MaterialSettings& material);
+
+// What the view asks a shape's UI for: its path, the view's display style, the shape's
+// display status, and whether the view shows meshes.
+struct DrawContext {
+    M3dView::DisplayStyle style = M3dView::kGouraudShaded;
+    M3dView::DisplayStatus status = M3dView::kDormant;
+    bool meshesShown = true;
+};
+struct QueuedRequest {
+    std::string path;  // full path name
+    int token = 0;
+    M3dView::DisplayStyle style = M3dView::kBoundingBox;
+    M3dView::DisplayStatus status = M3dView::kNoStatus;
+    bool colorSet = false;
+    int colorIndex = 0;
+    int colorTable = 0;
+    bool transparent = false;
+    bool materialAssigned = false;  // a material was attached to the request
+    bool materialEvaluated = false;
+    const void* geometry = nullptr;  // what the draw data carries
+    bool textureEvaluated = false;
+};
+// Calls the shape UI's getDrawRequests and returns the queue's requests in queue order.
+std::vector<QueuedRequest> drawRequests(const MObject& shape, const DrawContext& context,
+                                        std::string* error = nullptr);
+
+struct SelectionCall {               // one MSelectInfo::addSelection
+    std::vector<std::string> items;  // full path names
+    MPoint point;
+    std::vector<int> maskTypes;  // MSelectionMask::SelectionType values in the mask
+    bool isComponent = false;
+};
+struct Selection {
+    bool selected = false;          // what the UI's select returned
+    std::vector<std::string> list;  // the selection list afterwards
+    std::vector<MPoint> points;     // the world-space selection points afterwards
+    std::vector<SelectionCall> calls;
+};
+// Calls the shape UI's select for a single click or for a marquee.
+Selection select(const MObject& shape, bool singleSelection, std::string* error = nullptr);
 
 // Messages shown through MGlobal and MStatus::perror, in the order they were shown.
 struct Message {

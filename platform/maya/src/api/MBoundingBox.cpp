@@ -12,6 +12,15 @@ bool MPoint::operator==(const MPoint& other) const {
 
 bool MPoint::operator!=(const MPoint& other) const { return !(*this == other); }
 
+MPoint MPoint::operator*(const MMatrix& m) const {
+    return MPoint(x * m[0][0] + y * m[1][0] + z * m[2][0] + w * m[3][0],
+                  x * m[0][1] + y * m[1][1] + z * m[2][1] + w * m[3][1],
+                  x * m[0][2] + y * m[1][2] + z * m[2][2] + w * m[3][2],
+                  x * m[0][3] + y * m[1][3] + z * m[2][3] + w * m[3][3]);
+}
+
+MPoint& MPoint::operator*=(const MMatrix& right) { return *this = *this * right; }
+
 MBoundingBox::MBoundingBox() : fEmpty(true) {}
 
 MBoundingBox::MBoundingBox(const MPoint& corner1, const MPoint& corner2) : fEmpty(true) {
@@ -45,6 +54,19 @@ void MBoundingBox::expand(const MBoundingBox& box) {
 bool MBoundingBox::contains(const MPoint& p) const {
     return !fEmpty && p.x >= fMin.x && p.x <= fMax.x && p.y >= fMin.y && p.y <= fMax.y &&
            p.z >= fMin.z && p.z <= fMax.z;
+}
+
+MStatus MBoundingBox::transformUsing(const MMatrix& matrix) {
+    if (fEmpty) return MStatus::kSuccess;
+    const MPoint low = fMin;
+    const MPoint high = fMax;
+    clear();
+    for (int corner = 0; corner < 8; ++corner) {
+        const MPoint p((corner & 1) ? high.x : low.x, (corner & 2) ? high.y : low.y,
+                       (corner & 4) ? high.z : low.z);
+        expand(p * matrix);
+    }
+    return MStatus::kSuccess;
 }
 
 double MBoundingBox::width() const { return fMax.x - fMin.x; }

@@ -27,7 +27,7 @@ Value& valueOf(const MDataHandle& handle) {
 MDataHandle handleFor(Object* blockNode, const MObject& attribute, bool pull, MStatus* status) {
     auto* node = dynamic_cast<NodeObj*>(blockNode);
     AttributeObj* attr = attributeOf(attribute);
-    if (!node || !attr || attr->owner != node->type) {
+    if (!node || !attr || !node->has(*attr)) {
         set(status, MStatus::kInvalidParameter);
         return MDataHandle();
     }

@@ -18,10 +18,13 @@ void set(MStatus* target, MStatus value) {
     if (target) *target = value;
 }
 
+// Node types and data types share one space of type ids.
+bool idTaken(unsigned int id) { return findType(id) || findDataType(id); }
+
 // Runs the type's attribute initialiser; the type is kept only if it succeeds.
 MStatus registerType(std::unique_ptr<NodeType> type) {
     HostState& host = state();
-    if (findType(type->id)) {
+    if (idTaken(type->id)) {
         diagnose("node type id " + hex(type->id) + " (\"" + type->name +
                  "\") is already registered");
         return MStatus::kFailure;
@@ -109,6 +112,58 @@ MStatus MFnPlugin::registerShape(const MString& typeName, const MTypeId& typeId,
     type->isDag = true;
     type->plugin = plugin;
     return registerType(std::move(type));
+}
+
+MStatus MFnPlugin::registerNode(const MString& typeName, const MTypeId& typeId,
+                                MCreatorFunction creatorFunction, MInitializeFunction initFunction,
+                                MPxNode::Type type, const MString* classification) {
+    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    if (!plugin || !creatorFunction) return MStatus::kInvalidParameter;
+    if (type != MPxNode::kDependNode && type != MPxNode::kLocatorNode &&
+        type != MPxNode::kSurfaceShape) {
+        diagnose("registerNode: the host has no nodes of kind " + std::to_string(type));
+        return MStatus::kInvalidParameter;
+    }
+    auto nodeType = std::make_unique<NodeType>();
+    nodeType->name = typeName.asChar();
+    nodeType->id = typeId.id();
+    nodeType->creator = creatorFunction;
+    nodeType->initialize = initFunction;
+    nodeType->classification = classification ? classification->asChar() : "";
+    nodeType->isShape = type == MPxNode::kSurfaceShape;
+    nodeType->isDag = type != MPxNode::kDependNode;
+    nodeType->plugin = plugin;
+    return registerType(std::move(nodeType));
+}
+
+MStatus MFnPlugin::registerData(const MString& typeName, const MTypeId& typeId,
+                                MCreatorFunction creatorFunction, MPxData::Type type) {
+    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    if (!plugin || !creatorFunction) return MStatus::kInvalidParameter;
+    if (idTaken(typeId.id())) {
+        diagnose("data type id " + hex(typeId.id()) + " (\"" + typeName.asChar() +
+                 "\") is already registered");
+        return MStatus::kFailure;
+    }
+    if (findDataType(typeName.asChar())) {
+        diagnose("data type name \"" + std::string(typeName.asChar()) + "\" is already registered");
+        return MStatus::kFailure;
+    }
+    state().dataTypes.push_back(
+        DataType{typeName.asChar(), typeId.id(), creatorFunction, type, plugin});
+    return MStatus::kSuccess;
+}
+
+MStatus MFnPlugin::deregisterData(const MTypeId& typeId) {
+    auto& types = state().dataTypes;
+    for (auto it = types.begin(); it != types.end(); ++it) {
+        if (it->id == typeId.id()) {
+            types.erase(it);
+            return MStatus::kSuccess;
+        }
+    }
+    diagnose("deregisterData: no data type has id " + hex(typeId.id()));
+    return MStatus::kFailure;
 }
 
 MStatus MFnPlugin::deregisterNode(const MTypeId& typeId) {

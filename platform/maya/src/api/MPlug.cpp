@@ -19,7 +19,7 @@ struct Resolved {
 
 Resolved resolve(const MObject& node, const MObject& attribute) {
     Resolved result{nodeOf(node), attributeOf(attribute)};
-    if (result && result.attribute->owner != result.node->type) return Resolved();
+    if (result && !result.node->has(*result.attribute)) return Resolved();
     return result;
 }
 

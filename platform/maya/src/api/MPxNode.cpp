@@ -57,7 +57,7 @@ MStatus MPxNode::addAttribute(const MObject& attr) {
             "attribute");
         return MStatus::kFailure;
     }
-    if (attribute->owner) {
+    if (attribute->owner || attribute->dynamicOwner) {
         diagnose("addAttribute: \"" + attribute->longName + "\" already belongs to a node type");
         return MStatus::kFailure;
     }

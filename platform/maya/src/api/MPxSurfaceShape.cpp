@@ -1,6 +1,18 @@
 #include <maya/MPxSurfaceShape.h>
 #include <maya/MPxSurfaceShapeUI.h>
 
+#include "../HostState.h"
+
+using namespace mayahost::detail;
+
+namespace mayahost {
+namespace detail {
+
+void Access::bind(MPxSurfaceShapeUI& ui, MPxSurfaceShape* shape) { ui.fShape = shape; }
+
+}  // namespace detail
+}  // namespace mayahost
+
 OPENMAYA_NAMESPACE_OPEN
 
 MPxSurfaceShape::MPxSurfaceShape() : fRenderable(false) {}
@@ -21,5 +33,14 @@ bool MPxSurfaceShapeUI::select(MSelectInfo&, MSelectionList&, MPointArray&) cons
 bool MPxSurfaceShapeUI::snap(MSelectInfo&) const { return false; }
 bool MPxSurfaceShapeUI::canDrawUV() const { return false; }
 MPxSurfaceShape* MPxSurfaceShapeUI::surfaceShape() const { return fShape; }
+
+void MPxSurfaceShapeUI::getDrawData(const void* geom, MDrawData& drawData) {
+    Access::setGeometry(drawData, geom);
+}
+
+MMaterial MPxSurfaceShapeUI::material(MDagPath& path) const {
+    NodeObj* node = nodeOf(path.node());
+    return node ? Access::material(node->material) : MMaterial();
+}
 
 OPENMAYA_NAMESPACE_CLOSE

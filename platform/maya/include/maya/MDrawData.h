@@ -1,0 +1,23 @@
+#pragma once
+#include <maya/MTypes.h>
+
+OPENMAYA_NAMESPACE_OPEN
+
+// Shape-specific data handed from getDrawRequests to draw through a request.
+class OPENMAYA_EXPORT MDrawData {
+public:
+    MDrawData();
+    MDrawData(const MDrawData& in);
+    ~MDrawData();
+    void* geometry();
+
+protected:
+    MDrawData& operator=(const MDrawData& in);
+
+private:
+    friend struct mayahost::detail::Access;
+    const void* fGeometry;
+    bool fTextureEvaluated;  // set by MMaterial::evaluateTexture
+};
+
+OPENMAYA_NAMESPACE_CLOSE

@@ -1,0 +1,34 @@
+#pragma once
+// Host-side state behind the legacy viewport's value classes.
+#include <maya/MDagPath.h>
+#include <maya/MDrawRequest.h>
+#include <mayahost/Host.h>
+
+#include <deque>
+#include <vector>
+
+#include "Object.h"
+
+namespace mayahost {
+namespace detail {
+
+struct DrawQueue {
+    std::deque<MDrawRequest> requests;
+};
+
+struct SelectionItem {
+    MDagPath path;
+    MObject component;
+};
+
+struct SelectionItems {
+    std::vector<SelectionItem> items;
+};
+
+// What MSelectInfo::addSelection was handed, kept for the host's caller.
+struct SelectionRecord : Object {
+    std::vector<SelectionCall> calls;
+};
+
+}  // namespace detail
+}  // namespace mayahost
