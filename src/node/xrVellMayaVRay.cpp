@@ -1,16 +1,26 @@
 #include "node/xrVellMayaVRay.h"
 
+#include <maya/MFnDagNode.h>
+#include <maya/MFnDependencyNode.h>
 #include <maya/MFnNumericAttribute.h>
 #include <maya/MFnStringData.h>
 #include <maya/MFnTypedAttribute.h>
 #include <maya/MFnUnitAttribute.h>
+#include <maya/MGlobal.h>
+#include <maya/MPlug.h>
+#include <maya/MPlugArray.h>
+#include <maya/MTime.h>
 
 #include <iostream>
+
+#include "node/VellFurNode.h"
 
 namespace {
 
 // The data type of the fur node's output; registered by the fur product's own plug-in.
 const unsigned int kFurDataTypeId = 0x1158C6;
+// The fur node is recognised by this exact type name and nothing else.
+const char* const kFurNodeType = "xrVellMaya";
 
 MStatus reportFailure(const char* message) {
     std::cerr << message;
@@ -38,6 +48,69 @@ xrVellMayaVRay::~xrVellMayaVRay() {}
 void xrVellMayaVRay::postConstructor() { setRenderable(true); }
 
 bool xrVellMayaVRay::isBounded() const { return true; }
+
+MBoundingBox xrVellMayaVRay::boundingBox() const {
+    return const_cast<xrVellMayaVRay*>(this)->getConnectedBoundingBox();
+}
+
+// Only what feeds inputData counts; what inputData feeds elsewhere does not.
+bool xrVellMayaVRay::findConnectedInput(MObject& upstream) {
+    MPlug input(thisMObject(), m_inputData);
+    MPlugArray sources;
+    MStatus status;
+    if (!input.connectedTo(sources, true, false, &status)) return false;
+    upstream = sources[0].node();
+    return true;
+}
+
+VellFurNode* xrVellMayaVRay::getConnectedVellNode() {
+    MObject upstream;
+    if (!findConnectedInput(upstream)) return nullptr;
+    MFnDependencyNode furNode(upstream);
+    if (furNode.typeName() != kFurNodeType) return nullptr;
+    return static_cast<VellFurNode*>(furNode.userNode());
+}
+
+MBoundingBox xrVellMayaVRay::getConnectedBoundingBox() {
+    MObject upstream;
+    if (!findConnectedInput(upstream)) return MBoundingBox();
+    MFnDagNode furNode(upstream);
+    if (furNode.typeName() != kFurNodeType) {
+        MGlobal::displayError("xrVellMayaVRay accessing invalid node - getConnectedBoundingBox!");
+        return MBoundingBox();
+    }
+    return furNode.boundingBox();
+}
+
+MString xrVellMayaVRay::getConnectedShapeName() {
+    MObject upstream;
+    if (!findConnectedInput(upstream)) return MString();
+    MFnDependencyNode furNode(upstream);
+    if (furNode.typeName() != kFurNodeType) {
+        MGlobal::displayError("xrVellMayaVRay accessing invalid node - getConnectedShapeName!");
+        return MString();
+    }
+    return furNode.name();
+}
+
+float xrVellMayaVRay::getTime() {
+    MPlug time(thisMObject(), m_time);
+    return static_cast<float>(time.asMTime().value());
+}
+
+// The time reaches the fur node through single precision, as it always has.
+void xrVellMayaVRay::updateSample() {
+    const float time = getTime();
+    VellFurNode* furNode = getConnectedVellNode();
+    if (!furNode) return;
+    furNode->updateRenderSample(static_cast<double>(time));
+}
+
+void xrVellMayaVRay::remove() {
+    VellFurNode* furNode = getConnectedVellNode();
+    if (!furNode) return;
+    furNode->removeRenderSamples();
+}
 
 void* xrVellMayaVRay::creator() { return new xrVellMayaVRay(); }
 

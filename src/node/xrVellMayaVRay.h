@@ -1,9 +1,12 @@
 #pragma once
+#include <maya/MBoundingBox.h>
 #include <maya/MObject.h>
 #include <maya/MPxSurfaceShape.h>
 #include <maya/MStatus.h>
 #include <maya/MString.h>
 #include <maya/MTypeId.h>
+
+class VellFurNode;
 
 // The shape node that V-Ray for Maya sees as a custom geometry source. It carries no geometry:
 // it hands the settings of the fur node connected to inputData to the renderer.
@@ -14,6 +17,19 @@ public:
 
     void postConstructor() override;
     bool isBounded() const override;
+    // The connected fur node's box, in the fur node's object space.
+    MBoundingBox boundingBox() const override;
+
+    // The fur node connected to inputData. Without one: null, an empty box, an empty name;
+    // a node of another type is reported by the box and name queries, every time.
+    VellFurNode* getConnectedVellNode();
+    MBoundingBox getConnectedBoundingBox();
+    MString getConnectedShapeName();
+
+    // Scene time, and the fur node's render samples at that time.
+    float getTime();
+    void updateSample();
+    void remove();
 
     static void* creator();
     static MStatus initialize();
@@ -28,4 +44,7 @@ public:
     static MObject m_time;
     static MObject m_outApiType;
     static MObject m_outApiClassification;
+
+private:
+    bool findConnectedInput(MObject& upstream);
 };

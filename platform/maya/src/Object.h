@@ -18,6 +18,8 @@ struct Object {
     int references = 0;
 };
 
+struct DrawDataObj;
+
 void retain(Object* object);
 void release(Object* object);
 
@@ -61,6 +63,7 @@ struct Access {
     static void assign(MDrawData& to, const MDrawData& from);
     static void setGeometry(MDrawData& data, const void* geometry);
     static void markTextureEvaluated(MDrawData& data);
+    static const DrawDataObj& contents(const MDrawData& data);
     static MMaterial material(const MaterialSettings& settings);
     static QueuedRequest describe(const MDrawRequest& request);
 };

@@ -25,8 +25,8 @@ QueuedRequest Access::describe(const MDrawRequest& request) {
     info.transparent = request.fTransparent;
     info.materialAssigned = request.fMaterial.fAssigned;
     info.materialEvaluated = request.fMaterial.fEvaluated;
-    info.geometry = request.fData.fGeometry;
-    info.textureEvaluated = request.fData.fTextureEvaluated;
+    info.geometry = contents(request.fData).geometry;
+    info.textureEvaluated = contents(request.fData).textureEvaluated;
     return info;
 }
 

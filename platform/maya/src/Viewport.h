@@ -12,6 +12,11 @@
 namespace mayahost {
 namespace detail {
 
+struct DrawDataObj : Object {
+    const void* geometry = nullptr;
+    bool textureEvaluated = false;  // set by MMaterial::evaluateTexture
+};
+
 struct DrawQueue {
     std::deque<MDrawRequest> requests;
 };

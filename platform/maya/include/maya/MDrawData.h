@@ -3,7 +3,8 @@
 
 OPENMAYA_NAMESPACE_OPEN
 
-// Shape-specific data handed from getDrawRequests to draw through a request.
+// Shape-specific data handed from getDrawRequests to draw through a request. Copies are handles
+// to the same data.
 class OPENMAYA_EXPORT MDrawData {
 public:
     MDrawData();
@@ -16,8 +17,7 @@ protected:
 
 private:
     friend struct mayahost::detail::Access;
-    const void* fGeometry;
-    bool fTextureEvaluated;  // set by MMaterial::evaluateTexture
+    mayahost::detail::Object* fData;
 };
 
 OPENMAYA_NAMESPACE_CLOSE

@@ -9,19 +9,35 @@ namespace mayahost {
 namespace detail {
 
 void Access::assign(MDrawData& to, const MDrawData& from) { to = from; }
-void Access::setGeometry(MDrawData& data, const void* geometry) { data.fGeometry = geometry; }
-void Access::markTextureEvaluated(MDrawData& data) { data.fTextureEvaluated = true; }
+void Access::setGeometry(MDrawData& data, const void* geometry) {
+    static_cast<DrawDataObj*>(data.fData)->geometry = geometry;
+}
+void Access::markTextureEvaluated(MDrawData& data) {
+    static_cast<DrawDataObj*>(data.fData)->textureEvaluated = true;
+}
+const DrawDataObj& Access::contents(const MDrawData& data) {
+    return *static_cast<const DrawDataObj*>(data.fData);
+}
 
 }  // namespace detail
 }  // namespace mayahost
 
 OPENMAYA_NAMESPACE_OPEN
 
-MDrawData::MDrawData() : fGeometry(nullptr), fTextureEvaluated(false) {}
-MDrawData::MDrawData(const MDrawData& in) = default;
-MDrawData::~MDrawData() = default;
-MDrawData& MDrawData::operator=(const MDrawData& in) = default;
-void* MDrawData::geometry() { return const_cast<void*>(fGeometry); }
+MDrawData::MDrawData() : fData(new DrawDataObj) { retain(fData); }
+MDrawData::MDrawData(const MDrawData& in) : fData(in.fData) { retain(fData); }
+MDrawData::~MDrawData() { release(fData); }
+
+MDrawData& MDrawData::operator=(const MDrawData& in) {
+    retain(in.fData);
+    release(fData);
+    fData = in.fData;
+    return *this;
+}
+
+void* MDrawData::geometry() {
+    return const_cast<void*>(static_cast<DrawDataObj*>(fData)->geometry);
+}
 
 MDrawRequest::MDrawRequest()
     : fStatus(M3dView::kNoStatus),
