@@ -7,7 +7,9 @@
 // The fur product's node object, as this plug-in calls it. It belongs to the fur product's own
 // plug-in and is reached only through its table of virtual operations, whose order that
 // plug-in fixes; the placeholders stand for operations of it that are never called here and
-// keep the others in their places. Never created, copied, deleted or kept here.
+// keep the others in their places. Never created, copied, deleted or kept here. It must stay
+// a namespace-scope class: a compiler that saw all its derived classes would bind the calls to
+// the pure stubs.
 class VellFurNode : public MPxSurfaceShape {
 public:
     virtual void placeholder1() = 0;

@@ -1,0 +1,68 @@
+#include "FurScene.h"
+
+#include <maya/MFnDagNode.h>
+#include <maya/MPxSurfaceShape.h>
+
+const char* const kFurPluginPath = XRVELL_FUR_PLUGIN_PATH;
+
+void FurScene::SetUp() {
+    HostTest::SetUp();
+    loadFur();
+    loadBridge();
+}
+
+void FurScene::loadFur() {
+    const mayahost::PluginLoad load = mayahost::loadPlugin(kFurPluginPath);
+    ASSERT_TRUE(load) << load.error;
+}
+
+MObject FurScene::createFur(const std::string& name) {
+    return mayahost::createNode("xrVellMaya", name);
+}
+
+MObject FurScene::createBridge(const std::string& name) {
+    return mayahost::createNode("xrVellMayaVRay", name);
+}
+
+void FurScene::connectFur(const MObject& fur, const MObject& bridge) {
+    std::string error;
+    ASSERT_EQ(mayahost::connect(mayahost::findPlug(fur, "outputData"),
+                                mayahost::findPlug(bridge, "inputData"), &error),
+              MStatus::kSuccess)
+        << error;
+}
+
+void FurScene::setFurBox(const MObject& fur, const MPoint& min, const MPoint& max) {
+    const char* const names[] = {"boxMinX", "boxMinY", "boxMinZ", "boxMaxX", "boxMaxY", "boxMaxZ"};
+    const double values[] = {min.x, min.y, min.z, max.x, max.y, max.z};
+    for (int i = 0; i < 6; ++i)
+        ASSERT_EQ(mayahost::findPlug(fur, names[i]).setDouble(values[i]), MStatus::kSuccess);
+}
+
+MObject FurScene::transformOf(const MObject& shape) {
+    MObject node = shape;
+    return MFnDagNode(node).parent(0);
+}
+
+void FurScene::setChannels(const MObject& transform, const char* prefix, double x, double y,
+                           double z) {
+    const std::string stem = prefix;
+    mayahost::findPlug(transform, stem + "X").setDouble(x);
+    mayahost::findPlug(transform, stem + "Y").setDouble(y);
+    mayahost::findPlug(transform, stem + "Z").setDouble(z);
+}
+
+MBoundingBox FurScene::shapeBox(const MObject& shape) {
+    MObject node = shape;
+    return MFnDagNode(node).boundingBox();
+}
+
+xrvellfur::FurCallLog& FurScene::furCalls() {
+    xrvellfur::FurCallLog* log = xrvellfur::furCallLog(kFurPluginPath);
+    if (!log) {
+        ADD_FAILURE() << "the fur plug-in is not loaded";
+        static xrvellfur::FurCallLog none;
+        return none;
+    }
+    return *log;
+}

@@ -1,0 +1,30 @@
+#pragma once
+#include <maya/MBoundingBox.h>
+#include <maya/MObject.h>
+#include <maya/MPoint.h>
+#include <xrvellfur/FurCalls.h>
+
+#include <string>
+
+#include "HostTest.h"
+
+extern const char* const kFurPluginPath;
+
+// A fresh host with the fur product stand-in and the bridge loaded.
+class FurScene : public HostTest {
+protected:
+    void SetUp() override;
+
+    static void loadFur();
+    static MObject createFur(const std::string& name = "");
+    static MObject createBridge(const std::string& name = "");
+    // fur.outputData -> bridge.inputData; fails the test if the host refuses.
+    static void connectFur(const MObject& fur, const MObject& bridge);
+    static void setFurBox(const MObject& fur, const MPoint& min, const MPoint& max);
+    static MObject transformOf(const MObject& shape);
+    static void setChannels(const MObject& transform, const char* prefix, double x, double y,
+                            double z);
+    // What Maya gets when it asks a surface shape for its extent.
+    static MBoundingBox shapeBox(const MObject& shape);
+    static xrvellfur::FurCallLog& furCalls();
+};
