@@ -34,13 +34,13 @@ public:
     MTime asMTime(MStatus* ReturnStatus = NULL) const;
     MObject asMObject(MStatus* ReturnStatus = NULL) const;
 
-    MStatus setBool(bool value);
-    MStatus setShort(short value);
-    MStatus setInt(int value);
-    MStatus setFloat(float value);
-    MStatus setDouble(double value);
-    MStatus setString(const MString& value);
-    MStatus setMTime(const MTime& value);
+    MStatus setBool(bool value) const;
+    MStatus setShort(short value) const;
+    MStatus setInt(int value) const;
+    MStatus setFloat(float value) const;
+    MStatus setDouble(double value) const;
+    MStatus setString(const MString& value) const;
+    MStatus setMTime(const MTime& value) const;
 
     bool operator==(const MPlug& other) const;
     bool operator==(const MObject& attribute) const;

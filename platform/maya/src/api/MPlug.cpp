@@ -136,25 +136,25 @@ MObject MPlug::asMObject(MStatus* s) const {
     return readValue(fNode, fAttribute, s, [](Value& v) { return v.data; });
 }
 
-MStatus MPlug::setBool(bool value) {
+MStatus MPlug::setBool(bool value) const {
     return writeValue(fNode, fAttribute, [&](Value& v) { v.setNumber(value ? 1.0 : 0.0); });
 }
-MStatus MPlug::setShort(short value) {
+MStatus MPlug::setShort(short value) const {
     return writeValue(fNode, fAttribute, [&](Value& v) { v.setNumber(value); });
 }
-MStatus MPlug::setInt(int value) {
+MStatus MPlug::setInt(int value) const {
     return writeValue(fNode, fAttribute, [&](Value& v) { v.setNumber(value); });
 }
-MStatus MPlug::setFloat(float value) {
+MStatus MPlug::setFloat(float value) const {
     return writeValue(fNode, fAttribute, [&](Value& v) { v.setNumber(value); });
 }
-MStatus MPlug::setDouble(double value) {
+MStatus MPlug::setDouble(double value) const {
     return writeValue(fNode, fAttribute, [&](Value& v) { v.setNumber(value); });
 }
-MStatus MPlug::setString(const MString& value) {
+MStatus MPlug::setString(const MString& value) const {
     return writeValue(fNode, fAttribute, [&](Value& v) { v.setString(value); });
 }
-MStatus MPlug::setMTime(const MTime& value) {
+MStatus MPlug::setMTime(const MTime& value) const {
     return writeValue(fNode, fAttribute, [&](Value& v) { v.setTime(value); });
 }
 
