@@ -1,5 +1,7 @@
 #include "node/xrVellMayaVRay.h"
 
+#include <maya/MDataBlock.h>
+#include <maya/MDataHandle.h>
 #include <maya/MFnDagNode.h>
 #include <maya/MFnDependencyNode.h>
 #include <maya/MFnNumericAttribute.h>
@@ -14,6 +16,7 @@
 #include <iostream>
 
 #include "node/VellFurNode.h"
+#include "params/Vector.h"
 
 namespace {
 
@@ -21,6 +24,11 @@ namespace {
 const unsigned int kFurDataTypeId = 0x1158C6;
 // The fur node is recognised by this exact type name and nothing else.
 const char* const kFurNodeType = "xrVellMaya";
+
+VUtils::Vector narrowed(const MPoint& corner) {
+    return VUtils::Vector{static_cast<float>(corner.x), static_cast<float>(corner.y),
+                          static_cast<float>(corner.z)};
+}
 
 MStatus reportFailure(const char* message) {
     std::cerr << message;
@@ -45,7 +53,77 @@ xrVellMayaVRay::xrVellMayaVRay() {}
 
 xrVellMayaVRay::~xrVellMayaVRay() {}
 
-void xrVellMayaVRay::postConstructor() { setRenderable(true); }
+void xrVellMayaVRay::postConstructor() {
+    parameters.setOwner(this);
+    setRenderable(true);
+}
+
+MStatus xrVellMayaVRay::compute(const MPlug& plug, MDataBlock& data) {
+    if (plug != m_vrayGeomResult) return MStatus::kUnknownParameter;
+
+    // Every request starts the fur node's render samples afresh at the current time.
+    remove();
+    updateSample();
+
+    MPlug input(thisMObject(), m_inputData);
+    MPlugArray sources;
+    if (input.connectedTo(sources, true, false)) {
+        MObject upstream = sources[0].node();
+        MStatus bound;
+        MFnDagNode furNode(upstream, &bound);
+        if (bound == MStatus::kSuccess && furNode.typeName() == kFurNodeType) {
+            copyFurSettings(furNode);
+            copyRegionOfInterest();
+        }
+    }
+
+    data.inputValue(m_time).asFloat();
+    void* request = data.inputValue(m_vrayGeom).asAddr();
+    if (request) createVRayPlugin(static_cast<VUtils::VRayGeomInfo*>(request));
+
+    MDataHandle result = data.outputValue(m_vrayGeomResult);
+    result.setInt(0);
+    result.setClean();
+    return MStatus::kSuccess;
+}
+
+// Time and the fur connection drive the result whatever else the host knows of them.
+MStatus xrVellMayaVRay::setDependentsDirty(const MPlug& plug, MPlugArray& affected) {
+    if (plug == m_inputData || plug == m_time)
+        affected.append(MPlug(thisMObject(), m_vrayGeomResult));
+    return MStatus::kSuccess;
+}
+
+// An attribute the fur node lacks leaves its parameter as it was.
+void xrVellMayaVRay::copyFurSettings(MFnDependencyNode& furNode) {
+    MPlug plug = furNode.findPlug("verbosity", false);
+    if (!plug.isNull()) parameters.verbosity.setInt(plug.asShort(), -1, 0.0);
+    plug = furNode.findPlug("renderDensity", false);
+    if (!plug.isNull()) parameters.density.setFloat(plug.asFloat(), -1, 0.0);
+    plug = furNode.findPlug("renderWidth", false);
+    if (!plug.isNull()) parameters.width.setFloat(plug.asFloat(), -1, 0.0);
+    plug = furNode.findPlug("renderLength", false);
+    if (!plug.isNull()) parameters.length.setFloat(plug.asFloat(), -1, 0.0);
+    plug = furNode.findPlug("imageSearchPath", false);
+    if (!plug.isNull()) parameters.imageSearchPath.setString(plug.asString().asChar(), -1, 0.0);
+    plug = furNode.findPlug("vrayDynamicHairTesselation", false);
+    if (!plug.isNull()) parameters.dynamicHairTesselation.setInt(plug.asBool() ? 1 : 0, -1, 0.0);
+    plug = furNode.findPlug("vraySegmentLength", false);
+    if (!plug.isNull()) parameters.segmentLength.setFloat(plug.asFloat(), -1, 0.0);
+}
+
+void xrVellMayaVRay::copyRegionOfInterest() {
+    VellFurNode* furNode = getConnectedVellNode();
+    if (!furNode) return;
+    parameters.obeyROI.setInt(furNode->getObeyROI() ? 1 : 0, -1, 0.0);
+    const MBoundingBox region = furNode->getROIBoundingBox();
+    parameters.minROI.setVector(narrowed(region.min()), -1, 0.0);
+    parameters.maxROI.setVector(narrowed(region.max()), -1, 0.0);
+}
+
+void xrVellMayaVRay::createVRayPlugin(VUtils::VRayGeomInfo* geomInfo) {
+    parameters.createPlugin(geomInfo);
+}
 
 bool xrVellMayaVRay::isBounded() const { return true; }
 

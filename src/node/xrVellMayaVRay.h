@@ -1,4 +1,5 @@
 #pragma once
+#include <maya/MApiNamespace.h>
 #include <maya/MBoundingBox.h>
 #include <maya/MObject.h>
 #include <maya/MPxSurfaceShape.h>
@@ -6,7 +7,13 @@
 #include <maya/MString.h>
 #include <maya/MTypeId.h>
 
+#include "vray_export/RendererParameterSet.h"
+
 class VellFurNode;
+
+namespace VUtils {
+class VRayGeomInfo;
+}
 
 // The shape node that V-Ray for Maya sees as a custom geometry source. It carries no geometry:
 // it hands the settings of the fur node connected to inputData to the renderer.
@@ -16,6 +23,9 @@ public:
     ~xrVellMayaVRay() override;
 
     void postConstructor() override;
+    // A render request: refreshes the parameters from the fur node and creates the plugin.
+    MStatus compute(const MPlug& plug, MDataBlock& data) override;
+    MStatus setDependentsDirty(const MPlug& plug, MPlugArray& affected) override;
     bool isBounded() const override;
     // The connected fur node's box, in the fur node's object space.
     MBoundingBox boundingBox() const override;
@@ -30,6 +40,8 @@ public:
     float getTime();
     void updateSample();
     void remove();
+
+    void createVRayPlugin(VUtils::VRayGeomInfo* geomInfo);
 
     static void* creator();
     static MStatus initialize();
@@ -47,4 +59,8 @@ public:
 
 private:
     bool findConnectedInput(MObject& upstream);
+    void copyFurSettings(MFnDependencyNode& furNode);
+    void copyRegionOfInterest();
+
+    RendererParameterSet parameters;
 };
