@@ -12,9 +12,7 @@ extern const char* const kFurPluginPath;
 
 // A fresh host with the fur product stand-in and the bridge loaded.
 class FurScene : public HostTest {
-protected:
-    void SetUp() override;
-
+public:
     static void loadFur();
     static MObject createFur(const std::string& name = "");
     static MObject createBridge(const std::string& name = "");
@@ -27,4 +25,7 @@ protected:
     // What Maya gets when it asks a surface shape for its extent.
     static MBoundingBox shapeBox(const MObject& shape);
     static xrvellfur::FurCallLog& furCalls();
+
+protected:
+    void SetUp() override;
 };
