@@ -1,0 +1,76 @@
+#include "MaValueParser.h"
+
+#include <cctype>
+#include <charconv>
+#include <cmath>
+
+namespace xrvell {
+namespace {
+
+bool isDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
+
+size_t skipDigits(const std::string& text, size_t at) {
+    while (at < text.size() && isDigit(text[at])) ++at;
+    return at;
+}
+
+size_t skipSign(const std::string& text, size_t at) {
+    return at < text.size() && (text[at] == '+' || text[at] == '-') ? at + 1 : at;
+}
+
+// Whether the text is a decimal number as MEL writes one: 1, -2.5, .5, 3., 1e-05.
+bool isDecimal(const std::string& text) {
+    size_t at = skipSign(text, 0);
+    const size_t integerEnd = skipDigits(text, at);
+    bool digits = integerEnd > at;
+    at = integerEnd;
+    if (at < text.size() && text[at] == '.') {
+        const size_t fractionEnd = skipDigits(text, at + 1);
+        digits = digits || fractionEnd > at + 1;
+        at = fractionEnd;
+    }
+    if (!digits) return false;
+    if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+        const size_t exponentStart = skipSign(text, at + 1);
+        const size_t exponentEnd = skipDigits(text, exponentStart);
+        if (exponentEnd == exponentStart) return false;
+        at = exponentEnd;
+    }
+    return at == text.size();
+}
+
+// from_chars takes no leading '+'.
+const char* withoutPlus(const std::string& text) {
+    return !text.empty() && text[0] == '+' ? text.data() + 1 : text.data();
+}
+
+}  // namespace
+
+bool MaValueParser::parseNumber(const std::string& text, double* value) {
+    if (!isDecimal(text)) return false;
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(withoutPlus(text), end, *value);
+    return result.ec == std::errc() && result.ptr == end && std::isfinite(*value);
+}
+
+bool MaValueParser::parseInteger(const std::string& text, long long* value) {
+    const size_t start = skipSign(text, 0);
+    if (start == text.size() || skipDigits(text, start) != text.size()) return false;
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(withoutPlus(text), end, *value);
+    return result.ec == std::errc() && result.ptr == end;
+}
+
+bool MaValueParser::parseBoolWord(const std::string& text, bool* value) {
+    if (text == "yes" || text == "true" || text == "on") {
+        *value = true;
+        return true;
+    }
+    if (text == "no" || text == "false" || text == "off") {
+        *value = false;
+        return true;
+    }
+    return false;
+}
+
+}  // namespace xrvell

@@ -1,0 +1,57 @@
+#pragma once
+#include <chrono>
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "RenderOptions.h"
+#include "RenderRecord.h"
+
+namespace VUtils {
+class PluginRegistry;
+}
+
+namespace xrvell {
+
+class PluginPath;
+
+// One run of xrvell-render: loads the plug-ins into the stand-in host, reads the scene,
+// renders the frames through the renderer stand-in and writes the .vrscene. Leaves the host
+// fresh when it ends.
+class RenderJob {
+public:
+    // Messages and the summary go to log.
+    RenderJob(const RenderOptions& options, std::FILE* log);
+    ~RenderJob();
+    RenderJob(const RenderJob&) = delete;
+    RenderJob& operator=(const RenderJob&) = delete;
+
+    // The exit status: 0 when all went well, 1 on errors. Nothing is written when the scene
+    // cannot be read; errors shown by the plug-in during the render still leave a full file.
+    int run();
+
+    // The steps of run(), for callers that hold the scene text themselves.
+    bool load(const std::string& sceneText);
+    std::string render();
+    const vrayrender::RenderRecord& record() const { return rendered; }
+
+private:
+    bool readScene(std::string* text);
+    bool resolveFrames();
+    bool writeOutput(const std::string& text);
+    void countHostMessages();
+    void printDetails() const;
+    void printSummary() const;
+    bool fail(const std::string& text);
+
+    RenderOptions options;
+    std::FILE* log;
+    std::chrono::steady_clock::time_point started;
+    std::unique_ptr<VUtils::PluginRegistry> registry;
+    std::unique_ptr<PluginPath> plugins;
+    vrayrender::RenderRecord rendered;
+    int warnings = 0;
+    int errors = 0;
+};
+
+}  // namespace xrvell

@@ -1,0 +1,20 @@
+#pragma once
+#include <string>
+
+#include "RenderRecord.h"
+
+namespace xrvell {
+
+// Values in V-Ray's text scene format, written so they read back exactly.
+class VrsceneValue {
+public:
+    static void append(const vrayrender::RecordedValue& value, std::string& out);
+    // 32-bit floats with nine significant digits.
+    static void appendFloat(float value, std::string& out);
+    // Doubles with the fewest digits that read back to the same double.
+    static void appendDouble(double value, std::string& out);
+    // In double quotes, with '"' and '\' escaped.
+    static void appendString(const std::string& text, std::string& out);
+};
+
+}  // namespace xrvell

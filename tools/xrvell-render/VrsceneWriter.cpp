@@ -1,0 +1,93 @@
+#include "VrsceneWriter.h"
+
+#include <utility>
+
+#include "VrsceneValue.h"
+
+namespace xrvell {
+namespace {
+
+using vrayrender::RecordedFrame;
+using vrayrender::RecordedInstance;
+using vrayrender::RecordedParameter;
+using vrayrender::RecordedSample;
+
+// The plugin type the bridge nodes create.
+const char* const kPluginType = "xrVellVRay";
+
+std::string doubleText(double value) {
+    std::string text;
+    VrsceneValue::appendDouble(value, text);
+    return text;
+}
+
+bool changesWithinFrame(const std::vector<RecordedSample>& samples) {
+    for (const RecordedSample& sample : samples)
+        if (sample.value != samples.front().value) return true;
+    return false;
+}
+
+}  // namespace
+
+VrsceneWriter::VrsceneWriter(std::string sceneName, const vrayrender::RenderSettings& render)
+    : scene(std::move(sceneName)), settings(render) {}
+
+std::string VrsceneWriter::write(const vrayrender::RenderRecord& record) const {
+    std::string out;
+    writeHeader(out);
+    for (const RecordedFrame& frame : record.frames) writeFrame(frame, out);
+    return out;
+}
+
+void VrsceneWriter::writeHeader(std::string& out) const {
+    out += "// V-Ray scene: what the ";
+    out += kPluginType;
+    out += " plugin received, written by xrvell-render\n// Scene: " + scene + "\n";
+    out += "// Frames " + doubleText(settings.startFrame) + " to " + doubleText(settings.endFrame) +
+           ", step " + doubleText(settings.byFrame) + "; motion blur ";
+    const vrayrender::MotionBlur& blur = settings.motionBlur;
+    if (blur.enabled)
+        out += "on: duration " + doubleText(blur.duration) + ", interval centre " +
+               doubleText(blur.intervalCenter) + ", " + std::to_string(blur.geometrySamples) +
+               " geometry samples\n";
+    else
+        out += "off\n";
+}
+
+void VrsceneWriter::writeFrame(const RecordedFrame& frame, std::string& out) const {
+    out += "\n// Frame " + doubleText(frame.frame) + ": geometry samples at ";
+    for (size_t i = 0; i < frame.sampleTimes.size(); ++i)
+        out += (i ? ", " : "") + doubleText(frame.sampleTimes[i]);
+    out += '\n';
+    for (const RecordedInstance& instance : frame.instances) writeInstance(instance, out);
+}
+
+void VrsceneWriter::writeInstance(const RecordedInstance& instance, std::string& out) const {
+    out += kPluginType;
+    out += ' ' + instance.node + " {\n";
+    for (const RecordedParameter& parameter : instance.parameters) writeParameter(parameter, out);
+    out += "}\n";
+}
+
+void VrsceneWriter::writeParameter(const RecordedParameter& parameter, std::string& out) const {
+    const std::vector<RecordedSample>& samples = parameter.samples;
+    if (samples.empty() || samples.front().value.kind == vrayrender::RecordedValue::Kind::None) {
+        out += "  // " + parameter.name + ": no value the renderer can read\n";
+        return;
+    }
+    out += "  " + parameter.name + '=';
+    if (!changesWithinFrame(samples)) {
+        VrsceneValue::append(samples.front().value, out);
+    } else {
+        out += "interpolate(";
+        for (size_t i = 0; i < samples.size(); ++i) {
+            out += (i ? ", (" : "(") + doubleText(samples[i].time) + ", ";
+            VrsceneValue::append(samples[i].value, out);
+            out += ')';
+        }
+        out += ')';
+    }
+    out += ";\n";
+}
+
+}  // namespace xrvell

@@ -1,0 +1,28 @@
+#pragma once
+#include <string>
+
+#include "RenderRecord.h"
+#include "RenderSettings.h"
+
+namespace xrvell {
+
+// Writes what each xrVellVRay plugin instance received, frame by frame, as a V-Ray text scene.
+// Depends on nothing but its inputs.
+class VrsceneWriter {
+public:
+    // The scene name and settings go into the header comment.
+    VrsceneWriter(std::string sceneName, const vrayrender::RenderSettings& settings);
+
+    std::string write(const vrayrender::RenderRecord& record) const;
+
+private:
+    void writeHeader(std::string& out) const;
+    void writeFrame(const vrayrender::RecordedFrame& frame, std::string& out) const;
+    void writeInstance(const vrayrender::RecordedInstance& instance, std::string& out) const;
+    void writeParameter(const vrayrender::RecordedParameter& parameter, std::string& out) const;
+
+    std::string scene;
+    vrayrender::RenderSettings settings;
+};
+
+}  // namespace xrvell
