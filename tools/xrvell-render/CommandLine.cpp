@@ -90,13 +90,15 @@ bool CommandLine::fail(const std::string& text) {
 }
 
 bool CommandLine::parse(const std::vector<std::string>& args) {
-    std::vector<std::string> scenes;
-    for (size_t i = 0; i < args.size(); ++i) {
-        const std::string& arg = args[i];
+    for (const std::string& arg : args) {
         if (isHelp(arg)) {
             result = Outcome::Help;
             return false;
         }
+    }
+    std::vector<std::string> scenes;
+    for (size_t i = 0; i < args.size(); ++i) {
+        const std::string& arg = args[i];
         if (arg.size() > 1 && arg[0] == '-') {
             if (!takesValue(arg)) return fail("unknown option \"" + arg + "\"");
             if (i + 1 == args.size()) return fail("option " + arg + " needs a value");

@@ -76,6 +76,11 @@ int componentsOf(const std::string& type) {
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
+// The host's messages name the call they come from; ours name the command.
+std::string withoutPrefix(const std::string& text, const std::string& prefix) {
+    return text.compare(0, prefix.size(), prefix) == 0 ? text.substr(prefix.size()) : text;
+}
+
 }  // namespace
 
 SceneReader::SceneReader(Diagnostics& report, PluginRequest loader)
@@ -195,7 +200,7 @@ bool SceneReader::createInHost(const std::string& type, const std::string& name,
     } else {
         object = mayahost::createNode(type, name, &error);
     }
-    if (object.isNull()) return fail("createNode: " + error);
+    if (object.isNull()) return fail("createNode: " + withoutPrefix(error, "createNode: "));
     mayahost::NodeTypeInfo info;
     mayahost::findNodeType(type, &info);
     const std::string key = name.empty() ? mayahost::nodeName(object) : name;
@@ -219,13 +224,21 @@ bool SceneReader::selectCommand(const MaStatement& statement) {
     const bool noExpand = args.parse(statement, {{"ne", "noExpand", false}}) && args.has("ne") &&
                           args.plain().size() == 1;
     if (!noExpand) return skipCommand(statement);
-    const std::string name = nodeNameOf(args.plain()[0].text);
-    if (!isSkipped(name) && !findNode(name)) {
-        warnOnce(warnedNodes, name,
-                 "node " + quoted(name) + " is not in the scene; its settings are skipped");
-        skipNode(name);
-    }
+    const std::string& text = args.plain()[0].text;
+    const std::string name = nodeNameOf(text);
+    if (!isSkipped(name) && !missingDefaultNode(PlugPath{name, "", text[0] == ':'}) &&
+        !findNode(name))
+        return fail("select: no node " + quoted(name));
     select(name);
+    return true;
+}
+
+// Maya's default nodes (":name") that the host does not have are skipped with what they carry.
+bool SceneReader::missingDefaultNode(const PlugPath& path) {
+    if (!path.rooted || findNode(path.node)) return false;
+    warnOnce(warnedNodes, path.node,
+             "node " + quoted(path.node) + " is not in the scene; its settings are skipped");
+    skipNode(path.node);
     return true;
 }
 
@@ -246,6 +259,7 @@ bool SceneReader::splitPlug(const std::string& text, PlugPath* path) {
     if (dot == std::string::npos || dot + 1 == text.size())
         return fail(quoted(text) + " is not a plug name (node.attribute)");
     path->node = nodeNameOf(text.substr(0, dot));
+    path->rooted = text[0] == ':';
     path->attribute = text.substr(dot + 1);
     return true;
 }
@@ -351,6 +365,7 @@ bool SceneReader::connectAttrCommand(const MaStatement& statement) {
     if (!splitPlug(args.plain()[0].text, &from) || !splitPlug(args.plain()[1].text, &to))
         return false;
     if (isSkipped(from.node) || isSkipped(to.node)) return true;
+    if (missingDefaultNode(from) || missingDefaultNode(to)) return true;
     const std::string what = "cannot connect " + quoted(args.plain()[0].text) + " to " +
                              quoted(args.plain()[1].text) + ": ";
     const SceneNode* source = findNode(from.node);
@@ -369,9 +384,7 @@ bool SceneReader::connectAttrCommand(const MaStatement& statement) {
     }
     std::string error;
     if (mayahost::connect(sourcePlug, destinationPlug, &error) == MStatus::kSuccess) return true;
-    const std::string prefix = "connect: ";
-    if (error.compare(0, prefix.size(), prefix) == 0) error.erase(0, prefix.size());
-    return fail(what + error);
+    return fail(what + withoutPrefix(error, "connect: "));
 }
 
 // Dynamic attributes are not modelled: their later values are skipped with them.

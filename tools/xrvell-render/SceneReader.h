@@ -40,6 +40,7 @@ private:
     struct PlugPath {
         std::string node;
         std::string attribute;
+        bool rooted = false;  // written with the root namespace, as Maya names default nodes
     };
 
     bool apply(const MaStatement& statement);
@@ -56,6 +57,7 @@ private:
 
     bool splitPlug(const std::string& text, PlugPath* path);
     const SceneNode* findNode(const std::string& name);
+    bool missingDefaultNode(const PlugPath& path);
     bool isSkipped(const std::string& node) const { return skippedNodes.count(node) > 0; }
     void skipNode(const std::string& node) { skippedNodes.insert(node); }
     void select(const std::string& node);
