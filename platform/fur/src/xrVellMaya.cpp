@@ -23,7 +23,7 @@ MObject obeyROI;
 MObject boxCorners[6];  // min x y z, max x y z, in object space
 MObject roiCorners[6];
 
-struct NumericSpec {
+struct NumericDefinition {
     const char* longName;
     const char* shortName;
     MFnNumericData::Type type;
@@ -31,7 +31,7 @@ struct NumericSpec {
 };
 
 // The render settings the bridge reads by name.
-const NumericSpec kRenderSettings[] = {
+const NumericDefinition kRenderSettings[] = {
     {"verbosity", "vb", MFnNumericData::kShort, 0.0},
     {"renderDensity", "rd", MFnNumericData::kFloat, 1.0},
     {"renderWidth", "rw", MFnNumericData::kFloat, 1.0},
@@ -40,7 +40,7 @@ const NumericSpec kRenderSettings[] = {
     {"vrayDynamicHairTesselation", "vdht", MFnNumericData::kBoolean, 0.0},
 };
 
-const NumericSpec kBoxCorners[] = {
+const NumericDefinition kBoxCorners[] = {
     {"boxMinX", "bnx", MFnNumericData::kDouble, -1.0},
     {"boxMinY", "bny", MFnNumericData::kDouble, -1.0},
     {"boxMinZ", "bnz", MFnNumericData::kDouble, -1.0},
@@ -49,7 +49,7 @@ const NumericSpec kBoxCorners[] = {
     {"boxMaxZ", "bxz", MFnNumericData::kDouble, 1.0},
 };
 
-const NumericSpec kRoiCorners[] = {
+const NumericDefinition kRoiCorners[] = {
     {"roiMinX", "rnx", MFnNumericData::kDouble, -1.0},
     {"roiMinY", "rny", MFnNumericData::kDouble, -1.0},
     {"roiMinZ", "rnz", MFnNumericData::kDouble, -1.0},
@@ -58,9 +58,10 @@ const NumericSpec kRoiCorners[] = {
     {"roiMaxZ", "rxz", MFnNumericData::kDouble, 1.0},
 };
 
-MStatus addNumeric(const NumericSpec& spec, MObject* handle) {
+MStatus addNumeric(const NumericDefinition& definition, MObject* handle) {
     MFnNumericAttribute numeric;
-    MObject attribute = numeric.create(spec.longName, spec.shortName, spec.type, spec.value);
+    MObject attribute = numeric.create(definition.longName, definition.shortName, definition.type,
+                                       definition.value);
     numeric.setKeyable(true);
     if (handle) *handle = attribute;
     return MPxNode::addAttribute(attribute);
@@ -83,9 +84,9 @@ MStatus addOutput() {
     return MPxNode::addAttribute(outputData);
 }
 
-MStatus addCorners(const NumericSpec (&specs)[6], MObject (&handles)[6]) {
+MStatus addCorners(const NumericDefinition (&definitions)[6], MObject (&handles)[6]) {
     for (int i = 0; i < 6; ++i) {
-        const MStatus status = addNumeric(specs[i], &handles[i]);
+        const MStatus status = addNumeric(definitions[i], &handles[i]);
         if (status != MStatus::kSuccess) return status;
     }
     return MStatus::kSuccess;
@@ -103,8 +104,8 @@ void* xrVellMaya::creator() { return new xrVellMaya; }
 
 MStatus xrVellMaya::initialize() {
     MStatus status = addOutput();
-    for (const NumericSpec& spec : kRenderSettings)
-        if (status == MStatus::kSuccess) status = addNumeric(spec, nullptr);
+    for (const NumericDefinition& setting : kRenderSettings)
+        if (status == MStatus::kSuccess) status = addNumeric(setting, nullptr);
     if (status == MStatus::kSuccess) status = addString("imageSearchPath", "isp", nullptr);
     if (status == MStatus::kSuccess)
         status = addString("cacheFilePattern", "cfp", &cacheFilePattern);
