@@ -24,21 +24,55 @@ void dirtyDependents(NodeObj& node, const AttributeObj& attribute) {
             if (target && targetAttribute) markDirty(*target, *targetAttribute);
         }
     }
-    for (const Connection& connection : state().connections) {
-        if (connection.sourceNode == &node && connection.sourceAttribute == &attribute)
-            markDirty(*connection.destinationNode, *connection.destinationAttribute);
+    for (size_t at : outgoingConnections(node, attribute)) {
+        const Connection& connection = state().connections[at];
+        markDirty(*connection.destinationNode, *connection.destinationAttribute);
     }
+}
+
+void rebuildConnectionIndex() {
+    HostState& host = state();
+    host.incomingIndex.clear();
+    host.outgoingIndex.clear();
+    for (size_t at = 0; at < host.connections.size(); ++at) {
+        const Connection& c = host.connections[at];
+        host.incomingIndex[PlugKey(c.destinationNode, c.destinationAttribute)] = at;
+        host.outgoingIndex[PlugKey(c.sourceNode, c.sourceAttribute)].push_back(at);
+    }
+    host.connectionIndexStale = false;
+}
+
+void refreshConnectionIndex() {
+    if (state().connectionIndexStale) rebuildConnectionIndex();
 }
 
 }  // namespace
 
 const Connection* incomingConnection(const NodeObj& node, const AttributeObj& attribute) {
-    for (const Connection& connection : state().connections) {
-        if (connection.destinationNode == &node && connection.destinationAttribute == &attribute)
-            return &connection;
-    }
-    return nullptr;
+    refreshConnectionIndex();
+    HostState& host = state();
+    const auto found = host.incomingIndex.find(PlugKey(&node, &attribute));
+    return found == host.incomingIndex.end() ? nullptr : &host.connections[found->second];
 }
+
+const std::vector<size_t>& outgoingConnections(const NodeObj& node, const AttributeObj& attribute) {
+    static const std::vector<size_t> none;
+    refreshConnectionIndex();
+    HostState& host = state();
+    const auto found = host.outgoingIndex.find(PlugKey(&node, &attribute));
+    return found == host.outgoingIndex.end() ? none : found->second;
+}
+
+void addConnection(const Connection& connection) {
+    refreshConnectionIndex();
+    HostState& host = state();
+    const size_t at = host.connections.size();
+    host.connections.push_back(connection);
+    host.incomingIndex[PlugKey(connection.destinationNode, connection.destinationAttribute)] = at;
+    host.outgoingIndex[PlugKey(connection.sourceNode, connection.sourceAttribute)].push_back(at);
+}
+
+void connectionsRemoved() { state().connectionIndexStale = true; }
 
 MStatus computePlug(NodeObj& node, const AttributeObj& attribute) {
     if (!node.user) return MStatus::kUnknownParameter;

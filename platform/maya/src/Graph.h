@@ -12,6 +12,11 @@ void assign(NodeObj& node, const AttributeObj& attribute, const Value& value);
 void markDirty(NodeObj& node, const AttributeObj& attribute);
 void markClean(NodeObj& node, const AttributeObj& attribute);
 const Connection* incomingConnection(const NodeObj& node, const AttributeObj& attribute);
+// Positions in the connection list of the connections from this plug, in the order made.
+const std::vector<size_t>& outgoingConnections(const NodeObj& node, const AttributeObj& attribute);
+void addConnection(const Connection& connection);
+// To be called whenever connections leave the list.
+void connectionsRemoved();
 MStatus computePlug(NodeObj& node, const AttributeObj& attribute);
 
 }  // namespace detail

@@ -58,11 +58,7 @@ AttributeInfo describe(const AttributeObj& a) {
     return info;
 }
 
-bool nameTaken(const std::string& name) {
-    for (NodeObj* node : state().nodes)
-        if (node->name == name) return true;
-    return false;
-}
+bool nameTaken(const std::string& name) { return state().nodesByName.count(name) != 0; }
 
 // Maya's rule: a requested name that is taken, or none, gets the lowest free number appended.
 std::string uniqueName(const std::string& requested, const std::string& typeName) {
@@ -81,6 +77,7 @@ NodeObj* makeNode(NodeType& type, const std::string& name, NodeObj* parent) {
     node->type = &type;
     node->name = uniqueName(name, type.name);
     state().nodes.push_back(node);
+    state().nodesByName[node->name] = node;
     if (type.isDag) setParent(*node, parent);
     if (type.creator) {
         node->user = static_cast<MPxNode*>(type.creator());
@@ -134,11 +131,14 @@ std::string plugName(const PlugParts& p) { return p.node->name + "." + p.attribu
 void reset() {
     HostState& host = state();
     host.faults = Faults();
-    unloadAllPlugins();
+    // Everything goes, so the connections go at once and the nodes last made first, while the
+    // plug-ins that made them are still loaded.
+    host.connections.clear();
+    connectionsRemoved();
     destroyNodesWhere([](const NodeObj&) { return true; });
+    unloadAllPlugins();
     host.nodeTypes.clear();
     host.dataTypes.clear();
-    host.connections.clear();
     host.messages.clear();
     host.diagnostics.clear();
     host.addAttributeCalls = 0;
@@ -219,9 +219,8 @@ MStatus deleteNode(const MObject& handle) {
 }
 
 MObject findNode(const std::string& name) {
-    for (NodeObj* node : state().nodes)
-        if (node->name == name) return Access::handle(node);
-    return MObject();
+    const auto found = state().nodesByName.find(name);
+    return found == state().nodesByName.end() ? MObject() : Access::handle(found->second);
 }
 
 std::string nodeName(const MObject& handle) {
@@ -274,7 +273,7 @@ MStatus connect(const MPlug& source, const MPlug& destination, std::string* erro
         setError(error, "connect: " + plugName(to) + " already has an incoming connection");
         return MStatus::kFailure;
     }
-    state().connections.push_back(Connection{from.node, from.attribute, to.node, to.attribute});
+    addConnection(Connection{from.node, from.attribute, to.node, to.attribute});
     markClean(*to.node, *to.attribute);
     markDirty(*to.node, *to.attribute);
     return MStatus::kSuccess;
@@ -296,6 +295,7 @@ MStatus disconnect(const MPlug& source, const MPlug& destination, std::string* e
         return MStatus::kFailure;
     }
     connections.erase(found);
+    connectionsRemoved();
     // The destination keeps the last value it received, as in Maya.
     const Value last = to.node->slot(*to.attribute).value;
     assign(*to.node, *to.attribute, last);

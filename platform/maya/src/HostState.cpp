@@ -4,6 +4,7 @@
 
 #include "BuiltinTypes.h"
 #include "Dag.h"
+#include "Graph.h"
 
 namespace mayahost {
 namespace detail {
@@ -95,7 +96,12 @@ void destroyNode(NodeObj* node) {
                                          return c.sourceNode == node || c.destinationNode == node;
                                      }),
                       connections.end());
-    host.nodes.erase(std::remove(host.nodes.begin(), host.nodes.end(), node), host.nodes.end());
+    connectionsRemoved();
+    if (!host.nodes.empty() && host.nodes.back() == node)
+        host.nodes.pop_back();  // the usual case when a whole scene goes, last made first
+    else
+        host.nodes.erase(std::remove(host.nodes.begin(), host.nodes.end(), node), host.nodes.end());
+    host.nodesByName.erase(node->name);
     delete node->ui;  // the viewport object goes before the shape it refers to
     node->ui = nullptr;
     MPxNode* user = node->user;

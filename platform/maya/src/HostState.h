@@ -1,8 +1,11 @@
 #pragma once
 #include <mayahost/Host.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "Node.h"
@@ -19,12 +22,26 @@ struct Connection {
     const AttributeObj* destinationAttribute;
 };
 
+// One plug, as the connection index looks it up.
+using PlugKey = std::pair<const NodeObj*, const AttributeObj*>;
+struct PlugKeyHash {
+    size_t operator()(const PlugKey& key) const {
+        return std::hash<const void*>()(key.first) * 31 + std::hash<const void*>()(key.second);
+    }
+};
+
 struct HostState {
     std::vector<std::unique_ptr<NodeType>> nodeTypes;
     std::vector<DataType> dataTypes;
     std::vector<NodeObj*> nodes;      // each holds one reference
     std::vector<PluginObj*> plugins;  // each holds one reference
     std::vector<Connection> connections;
+    // Positions in `connections` by plug, so that lookups do not grow with the scene; rebuilt
+    // on the next lookup after a connection is removed.
+    std::unordered_map<PlugKey, size_t, PlugKeyHash> incomingIndex;
+    std::unordered_map<PlugKey, std::vector<size_t>, PlugKeyHash> outgoingIndex;
+    bool connectionIndexStale = false;
+    std::unordered_map<std::string, NodeObj*> nodesByName;
     std::vector<Message> messages;
     std::vector<std::string> diagnostics;
     Faults faults;
@@ -54,13 +71,12 @@ void destroyNode(NodeObj* node);
 // Destroys every node for which the predicate holds, however the DAG links them.
 template <class Predicate>
 void destroyNodesWhere(Predicate predicate) {
-    for (;;) {
-        NodeObj* doomed = nullptr;
-        for (NodeObj* node : state().nodes)
-            if (predicate(*node)) doomed = node;
-        if (!doomed) return;
-        destroyNode(doomed);
-    }
+    // Last made first; the handles keep each node's memory while a parent may take it down.
+    std::vector<MObject> doomed;
+    for (NodeObj* node : state().nodes)
+        if (predicate(*node)) doomed.push_back(Access::handle(node));
+    for (auto it = doomed.rbegin(); it != doomed.rend(); ++it)
+        if (NodeObj* node = nodeOf(*it)) destroyNode(node);
 }
 
 }  // namespace detail

@@ -1,6 +1,10 @@
 #include <maya/MPlug.h>
 #include <maya/MPlugArray.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 #include "../Graph.h"
 
 using namespace mayahost::detail;
@@ -95,13 +99,25 @@ bool MPlug::connectedTo(MPlugArray& array, bool asDst, bool asSrc, MStatus* Retu
     Resolved plug = resolve(fNode, fAttribute);
     set(ReturnStatus, plug ? MStatus::kSuccess : MStatus::kInvalidParameter);
     if (!plug) return false;
-    for (const Connection& c : state().connections) {
-        if (asDst && c.destinationNode == plug.node && c.destinationAttribute == plug.attribute)
-            array.append(MPlug(Access::handle(c.sourceNode),
-                               Access::handle(const_cast<AttributeObj*>(c.sourceAttribute))));
-        if (asSrc && c.sourceNode == plug.node && c.sourceAttribute == plug.attribute)
+    // (position in the connection list, as source), so the answer keeps the order connections
+    // were made in.
+    std::vector<std::pair<size_t, bool>> found;
+    const std::vector<Connection>& connections = state().connections;
+    if (asDst)
+        if (const Connection* in = incomingConnection(*plug.node, *plug.attribute))
+            found.emplace_back(static_cast<size_t>(in - connections.data()), false);
+    if (asSrc)
+        for (size_t at : outgoingConnections(*plug.node, *plug.attribute))
+            found.emplace_back(at, true);
+    std::sort(found.begin(), found.end());
+    for (const auto& entry : found) {
+        const Connection& c = connections[entry.first];
+        if (entry.second)
             array.append(MPlug(Access::handle(c.destinationNode),
                                Access::handle(const_cast<AttributeObj*>(c.destinationAttribute))));
+        else
+            array.append(MPlug(Access::handle(c.sourceNode),
+                               Access::handle(const_cast<AttributeObj*>(c.sourceAttribute))));
     }
     return array.length() > 0;
 }
