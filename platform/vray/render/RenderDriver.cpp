@@ -57,17 +57,11 @@ RenderRecord RenderDriver::render(const RenderSettings& settings) {
     findSources(settings.reuseInstances);
     record.geometrySources = static_cast<int>(sources.size());
     for (double frame : frames(settings)) {
-        RecordedFrame recorded;
-        recorded.frame = frame;
-        recorded.sampleTimes = sampleTimes(frame, settings.motionBlur);
-        mayahost::setCurrentTime(MTime(frame, MTime::uiUnit()));
-        for (Source& source : sources) translate(source);
-        for (Source& source : sources) {
-            if (!source.request->current()) continue;
-            recorded.instances.push_back(sampleInstance(source, recorded.sampleTimes));
-            source.request->current()->frameBegin(frame);
-        }
-        record.frames.push_back(std::move(recorded));
+        RecordedFrame done = renderFrame(frame, settings.motionBlur);
+        if (settings.frameDone)
+            settings.frameDone(std::move(done));
+        else
+            record.frames.push_back(std::move(done));
     }
     finishRender();
     record.instancesCreated = instanceCounter;
@@ -104,36 +98,60 @@ std::vector<RenderDriver::Parameter> RenderDriver::parametersOf(VUtils::VRayPlug
     return parameters;
 }
 
-RecordedInstance RenderDriver::sampleInstance(Source& source, const std::vector<double>& times) {
+RecordedFrame RenderDriver::renderFrame(double frame, const MotionBlur& blur) {
+    RecordedFrame recorded;
+    recorded.frame = frame;
+    recorded.sampleTimes = sampleTimes(frame, blur);
+    mayahost::setCurrentTime(MTime(frame, MTime::uiUnit()));
+    for (Source& source : sources) translate(source);
+    std::vector<Sampling> sampling;
+    for (Source& source : sources)
+        if (source.request->current())
+            sampling.push_back(beginSampling(source, recorded.sampleTimes));
+    // The scene time moves once per sample for every instance, as in a renderer; moving it per
+    // instance would dirty every node's time once per instance.
+    for (double time : recorded.sampleTimes) {
+        mayahost::setCurrentTime(MTime(time, MTime::uiUnit()));
+        for (Sampling& instance : sampling) sample(instance, time);
+    }
+    for (Sampling& instance : sampling) {
+        recorded.instances.push_back(std::move(instance.record));
+        instance.source->request->current()->frameBegin(frame);
+    }
+    return recorded;
+}
+
+RenderDriver::Sampling RenderDriver::beginSampling(Source& source,
+                                                   const std::vector<double>& times) {
     VUtils::VRayPlugin* plugin = source.request->current();
-    if (std::find(rendered.begin(), rendered.end(), plugin) == rendered.end())
-        rendered.push_back(plugin);
-    RecordedInstance instance;
+    if (renderedSet.insert(plugin).second) rendered.push_back(plugin);
+    Sampling sampling{&source, parametersOf(plugin), {}};
+    RecordedInstance& instance = sampling.record;
     instance.node = source.name;
     instance.instance = source.request->currentNumber();
     instance.created = source.request->madeNewInstance();
-    const std::vector<Parameter> parameters = parametersOf(plugin);
-    for (const Parameter& p : parameters) {
+    for (const Parameter& p : sampling.parameters) {
         instance.parameters.push_back(
             RecordedParameter{p.parameter->getName(), p.animation != nullptr, {}});
+        instance.parameters.back().samples.reserve(times.size());
         if (p.animation) p.animation->clearKeyFrames(times.front(), 0);
     }
-    for (double time : times) {
-        mayahost::setCurrentTime(MTime(time, MTime::uiUnit()));
-        for (size_t i = 0; i < parameters.size(); ++i) {
-            if (!parameters[i].animation) continue;
-            parameters[i].animation->createKeyFrame(time, 0);
-            // The value of an animated parameter belongs to the keyframe just made.
-            instance.parameters[i].samples.push_back(
-                {time, readParameter(*parameters[i].parameter, time)});
-        }
-        for (size_t i = 0; i < parameters.size(); ++i) {
-            if (parameters[i].animation) continue;
-            instance.parameters[i].samples.push_back(
-                {time, readParameter(*parameters[i].parameter, time)});
-        }
+    return sampling;
+}
+
+void RenderDriver::sample(Sampling& sampling, double time) {
+    const std::vector<Parameter>& parameters = sampling.parameters;
+    std::vector<RecordedParameter>& recorded = sampling.record.parameters;
+    for (size_t i = 0; i < parameters.size(); ++i) {
+        if (!parameters[i].animation) continue;
+        parameters[i].animation->createKeyFrame(time, 0);
+        // The value of an animated parameter belongs to the keyframe just made.
+        recorded[i].samples.push_back({time, readParameter(*parameters[i].parameter, time)});
     }
-    return instance;
+    for (size_t i = 0; i < parameters.size(); ++i) {
+        if (parameters[i].animation) continue;
+        recorded[i].samples.push_back({time, readParameter(*parameters[i].parameter, time)});
+    }
 }
 
 void RenderDriver::finishRender() {

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "GeomRequest.h"
@@ -40,14 +41,23 @@ private:
 
     void findSources(bool reuseInstances);
     void translate(Source& source);
-    void renderFrame(double frame, RenderRecord& record);
-    RecordedInstance sampleInstance(Source& source, const std::vector<double>& times);
+    // One plugin instance being sampled through a frame.
+    struct Sampling {
+        Source* source;
+        std::vector<Parameter> parameters;
+        RecordedInstance record;
+    };
+
+    RecordedFrame renderFrame(double frame, const MotionBlur& blur);
+    Sampling beginSampling(Source& source, const std::vector<double>& times);
+    void sample(Sampling& sampling, double time);
     std::vector<Parameter> parametersOf(VUtils::VRayPlugin* plugin) const;
     void finishRender();
 
     VUtils::PluginRegistry* registry;
     std::vector<Source> sources;
-    std::vector<VUtils::VRayPlugin*> rendered;  // every instance driven so far
+    std::vector<VUtils::VRayPlugin*> rendered;  // every instance driven so far, in order
+    std::unordered_set<VUtils::VRayPlugin*> renderedSet;
     int instanceCounter = 0;
 };
 

@@ -1,5 +1,8 @@
 #pragma once
+#include <functional>
 #include <vector>
+
+#include "RenderRecord.h"
 
 namespace vrayrender {
 
@@ -19,6 +22,9 @@ struct RenderSettings {
     // Whether the renderer hands back the instance made at an earlier translation of the same
     // node (as during an interactive session) or makes a fresh one each frame.
     bool reuseInstances = true;
+    // When set, each frame is handed here as soon as it is rendered instead of being kept in the
+    // record, so that a long render need not hold every frame at once.
+    std::function<void(RecordedFrame&&)> frameDone;
 };
 
 // The geometry sample times of one frame: the frame itself without blur, otherwise the samples
