@@ -1,5 +1,6 @@
 # Shared by the README's commands: Debian packages the build needs, and the configure step.
-XRVELL_PACKAGES=(cmake ninja-build g++ binutils libgtest-dev libgmock-dev libbenchmark-dev)
+XRVELL_PACKAGES=(cmake ninja-build g++ binutils libgtest-dev libgmock-dev libbenchmark-dev
+                 clang libclang-rt-14-dev valgrind)
 
 xrvell_missing_packages() {
     local missing=() package

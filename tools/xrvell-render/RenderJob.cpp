@@ -3,6 +3,8 @@
 #include <maya/MTime.h>
 #include <mayahost/Host.h>
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -12,6 +14,7 @@
 #include "Diagnostics.h"
 #include "OutputFile.h"
 #include "PluginPath.h"
+#include "ProgressLine.h"
 #include "RenderDriver.h"
 #include "SceneReader.h"
 #include "VrsceneWriter.h"
@@ -91,17 +94,31 @@ bool RenderJob::resolveFrames() {
 }
 
 std::string RenderJob::render() {
+    const VrsceneWriter writer(options.scene, options.settings);
+    std::string scene;
+    writer.writeHeader(scene);
+    const size_t total = vrayrender::frames(options.settings).size();
+    ProgressLine progress(log, options.verbosity >= 1 && isatty(fileno(log)));
+    vrayrender::RenderSettings settings = options.settings;
+    settings.frameDone = [&](vrayrender::RecordedFrame&& frame) {
+        writer.writeFrame(frame, scene);
+        frameDone(frame);
+        progress.update(framesDone, total);
+    };
     {
         vrayrender::RenderDriver driver(registry.get());
-        rendered = driver.render(options.settings);
+        rendered = driver.render(settings);
     }
+    progress.finish();
     countHostMessages();
-    if (options.verbosity >= 2)
-        for (const vrayrender::RecordedFrame& frame : rendered.frames)
-            std::fprintf(
-                log, "xrvell-render: frame %g: %s\n", frame.frame,
-                counted(frame.instances.size(), "plugin instance", "plugin instances").c_str());
-    return VrsceneWriter(options.scene, options.settings).write(rendered);
+    return scene;
+}
+
+void RenderJob::frameDone(const vrayrender::RecordedFrame& frame) {
+    ++framesDone;
+    if (options.verbosity < 2) return;
+    std::fprintf(log, "xrvell-render: frame %g: %s\n", frame.frame,
+                 counted(frame.instances.size(), "plugin instance", "plugin instances").c_str());
 }
 
 void RenderJob::countHostMessages() {
@@ -131,7 +148,7 @@ void RenderJob::printSummary() const {
     const double seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
     std::fprintf(log, "xrvell-render: %s, %s, %s, %s, %s, %.2f s\n",
-                 counted(rendered.frames.size(), "frame", "frames").c_str(),
+                 counted(framesDone, "frame", "frames").c_str(),
                  counted(static_cast<size_t>(rendered.geometrySources), "node", "nodes").c_str(),
                  counted(static_cast<size_t>(rendered.instancesCreated), "plugin instance",
                          "plugin instances")

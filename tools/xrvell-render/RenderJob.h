@@ -30,10 +30,10 @@ public:
     // cannot be read; errors shown by the plug-in during the render still leave a full file.
     int run();
 
-    // The steps of run(), for callers that hold the scene text themselves.
+    // The steps of run(), for callers that hold the scene text themselves: the scene into the
+    // host, then the frames rendered and written as they finish.
     bool load(const std::string& sceneText);
     std::string render();
-    const vrayrender::RenderRecord& record() const { return rendered; }
 
 private:
     bool readScene(std::string* text);
@@ -42,6 +42,7 @@ private:
     void countHostMessages();
     void printDetails() const;
     void printSummary() const;
+    void frameDone(const vrayrender::RecordedFrame& frame);
     bool fail(const std::string& text);
 
     RenderOptions options;
@@ -49,7 +50,8 @@ private:
     std::chrono::steady_clock::time_point started;
     std::unique_ptr<VUtils::PluginRegistry> registry;
     std::unique_ptr<PluginPath> plugins;
-    vrayrender::RenderRecord rendered;
+    vrayrender::RenderRecord rendered;  // the totals; the frames go out as they finish
+    size_t framesDone = 0;
     int warnings = 0;
     int errors = 0;
 };

@@ -8,6 +8,12 @@ namespace {
 
 using vrayrender::RecordedValue;
 
+void appendInt(int value, std::string& out) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%d", value);
+    out += text;
+}
+
 void appendTriple(const char* name, const float (&v)[3], std::string& out) {
     out += name;
     out += '(';
@@ -56,7 +62,7 @@ void VrsceneValue::appendString(const std::string& text, std::string& out) {
 void VrsceneValue::append(const RecordedValue& value, std::string& out) {
     switch (value.kind) {
         case RecordedValue::Kind::Int:
-            out += std::to_string(value.intValue);
+            appendInt(value.intValue, out);
             break;
         case RecordedValue::Kind::Float:
             appendFloat(static_cast<float>(value.number), out);

@@ -64,24 +64,33 @@ void VrsceneWriter::writeFrame(const RecordedFrame& frame, std::string& out) con
 
 void VrsceneWriter::writeInstance(const RecordedInstance& instance, std::string& out) const {
     out += kPluginType;
-    out += ' ' + instance.node + " {\n";
+    out += ' ';
+    out += instance.node;
+    out += " {\n";
     for (const RecordedParameter& parameter : instance.parameters) writeParameter(parameter, out);
     out += "}\n";
 }
 
+// Appends piece by piece: a large scene writes millions of these.
 void VrsceneWriter::writeParameter(const RecordedParameter& parameter, std::string& out) const {
     const std::vector<RecordedSample>& samples = parameter.samples;
     if (samples.empty() || samples.front().value.kind == vrayrender::RecordedValue::Kind::None) {
-        out += "  // " + parameter.name + ": no value the renderer can read\n";
+        out += "  // ";
+        out += parameter.name;
+        out += ": no value the renderer can read\n";
         return;
     }
-    out += "  " + parameter.name + '=';
+    out += "  ";
+    out += parameter.name;
+    out += '=';
     if (!changesWithinFrame(samples)) {
         VrsceneValue::append(samples.front().value, out);
     } else {
         out += "interpolate(";
         for (size_t i = 0; i < samples.size(); ++i) {
-            out += (i ? ", (" : "(") + doubleText(samples[i].time) + ", ";
+            out += i ? ", (" : "(";
+            VrsceneValue::appendDouble(samples[i].time, out);
+            out += ", ";
             VrsceneValue::append(samples[i].value, out);
             out += ')';
         }

@@ -14,10 +14,11 @@ public:
     VrsceneWriter(std::string sceneName, const vrayrender::RenderSettings& settings);
 
     std::string write(const vrayrender::RenderRecord& record) const;
-
-private:
+    // The same in parts, for frames written as they are rendered: the header, then each frame.
     void writeHeader(std::string& out) const;
     void writeFrame(const vrayrender::RecordedFrame& frame, std::string& out) const;
+
+private:
     void writeInstance(const vrayrender::RecordedInstance& instance, std::string& out) const;
     void writeParameter(const vrayrender::RecordedParameter& parameter, std::string& out) const;
 

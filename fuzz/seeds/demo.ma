@@ -1,0 +1,63 @@
+//Maya ASCII 2022 scene
+//Name: demo.ma
+//Last modified: Sun, Nov 22, 2026 09:30:12 AM
+//Codeset: UTF-8
+requires maya "2022";
+requires -nodeType "xrVellMaya" -dataType "xrVellMayaData" "xrVellMaya" "1.0";
+requires -nodeType "xrVellMayaVRay" "xrVellVRayMaya" "1.0";
+currentUnit -l centimeter -a degree -t film;
+fileInfo "application" "maya";
+fileInfo "product" "Maya 2022";
+fileInfo "version" "2022";
+fileInfo "cutIdentifier" "202205171752-c25c06f306";
+fileInfo "osv" "Linux 5.14.0-284.11.1.el9_2.x86_64 #1 SMP PREEMPT_DYNAMIC x86_64";
+fileInfo "UUID" "6A1F2C3D-4B5E-4F60-8172-93A4B5C6D7E8";
+createNode transform -n "furBody";
+	rename -uid "3C1D5E7F-4A2B-4C6D-8E9F-0A1B2C3D4E5F";
+	setAttr ".t" -type "double3" 0 4.5 0 ;
+createNode xrVellMaya -n "furBodyShape" -p "furBody";
+	rename -uid "5E7F9A1B-4C3D-4E5F-9A0B-1C2D3E4F5A6B";
+	setAttr -k off ".v";
+	setAttr ".vb" 1;
+	setAttr ".rd" 2.5;
+	setAttr ".rw" 0.80000001192092896;
+	setAttr ".rl" 1.25;
+	setAttr ".vsl" 0.25;
+	setAttr ".isp" -type "string" "/studio/textures/fur";
+	setAttr ".oroi" yes;
+	setAttr ".rnx" -2.5;
+	setAttr ".rny" 0;
+	setAttr ".rnz" -1;
+	setAttr ".rxx" 2.5;
+	setAttr ".rxy" 3;
+	setAttr ".rxz" 1;
+createNode transform -n "furBodyVRay";
+	rename -uid "7A9B1C3D-4E5F-4A6B-8C7D-9E0F1A2B3C4D";
+createNode xrVellMayaVRay -n "furBodyVRayShape" -p "furBodyVRay";
+	rename -uid "9C1D3E5F-4A6B-4C8D-9E0F-1A2B3C4D5E6F";
+	setAttr -k off ".v";
+createNode transform -n "furMane";
+	rename -uid "1E3F5A7B-4C9D-4E0F-8A1B-2C3D4E5F6A7B";
+	setAttr ".t" -type "double3" 0 7 3.5 ;
+	setAttr ".r" -type "double3" -15 0 0 ;
+createNode xrVellMaya -n "furManeShape" -p "furMane";
+	rename -uid "3A5B7C9D-4E1F-4A2B-9C3D-4E5F6A7B8C9D";
+	setAttr -k off ".v";
+	setAttr ".rd" 4;
+	setAttr ".rl" 2;
+	setAttr ".vdht" yes;
+	setAttr ".isp" -type "string" "/studio/textures/fur:/studio/textures/mane \"v2\"";
+	setAttr ".cfp" -type "string" "/studio/cache/mane/furManeShape.####.xvc";
+createNode transform -n "furManeVRay";
+	rename -uid "5C7D9E1F-4A3B-4C4D-8E5F-6A7B8C9D0E1F";
+createNode xrVellMayaVRay -n "furManeVRayShape" -p "furManeVRay";
+	rename -uid "7E9F1A3B-4C5D-4E6F-9A7B-8C9D0E1F2A3B";
+	setAttr -k off ".v";
+select -ne :time1;
+	setAttr ".o" 1;
+	setAttr ".unw" 1;
+connectAttr "furBodyShape.od" "furBodyVRayShape.vid";
+connectAttr ":time1.o" "furBodyVRayShape.time";
+connectAttr "furManeShape.od" "furManeVRayShape.vid";
+connectAttr ":time1.o" "furManeVRayShape.time";
+// End of demo.ma
