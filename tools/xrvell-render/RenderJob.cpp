@@ -101,7 +101,11 @@ std::string RenderJob::render() {
     ProgressLine progress(log, options.verbosity >= 1 && isatty(fileno(log)));
     vrayrender::RenderSettings settings = options.settings;
     settings.frameDone = [&](vrayrender::RecordedFrame&& frame) {
+        const size_t before = scene.size();
         writer.writeFrame(frame, scene);
+        // Frames come out about the same size: room for the rest at once, not by doubling.
+        if (framesDone == 0)
+            scene.reserve(scene.size() + (scene.size() - before) * total * 11 / 10);
         frameDone(frame);
         progress.update(framesDone, total);
     };
