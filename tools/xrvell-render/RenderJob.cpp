@@ -33,7 +33,6 @@ RenderJob::RenderJob(const RenderOptions& jobOptions, std::FILE* output)
     : options(jobOptions),
       log(output),
       started(std::chrono::steady_clock::now()),
-      registry(new VUtils::PluginRegistry),
       plugins(new PluginPath(jobOptions.pluginPath)) {}
 
 // Nodes go before the plug-ins that define them, and those before the renderer libraries.
@@ -69,7 +68,7 @@ bool RenderJob::readScene(std::string* text) {
 }
 
 bool RenderJob::load(const std::string& sceneText) {
-    for (const std::string& problem : registry->loadDirectories(options.rendererPluginPath)) {
+    for (const std::string& problem : registry.loadDirectories(options.rendererPluginPath)) {
         ++warnings;
         if (options.verbosity >= 1)
             std::fprintf(log, "xrvell-render: warning: %s\n", problem.c_str());
@@ -110,7 +109,7 @@ std::string RenderJob::render() {
         progress.update(framesDone, total);
     };
     {
-        vrayrender::RenderDriver driver(registry.get());
+        vrayrender::RenderDriver driver(&registry);
         rendered = driver.render(settings);
     }
     progress.finish();
@@ -143,7 +142,7 @@ bool RenderJob::writeOutput(const std::string& text) {
 void RenderJob::printDetails() const {
     for (const std::string& file : plugins->loadedFiles())
         std::fprintf(log, "xrvell-render: loaded plug-in %s\n", file.c_str());
-    for (const std::string& type : registry->typeNames())
+    for (const std::string& type : registry.typeNames())
         std::fprintf(log, "xrvell-render: renderer plugin type %s\n", type.c_str());
 }
 

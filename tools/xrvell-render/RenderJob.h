@@ -6,10 +6,7 @@
 
 #include "RenderOptions.h"
 #include "RenderRecord.h"
-
-namespace VUtils {
-class PluginRegistry;
-}
+#include "vray/PluginRegistry.h"
 
 namespace xrvell {
 
@@ -48,7 +45,7 @@ private:
     RenderOptions options;
     std::FILE* log;
     std::chrono::steady_clock::time_point started;
-    std::unique_ptr<VUtils::PluginRegistry> registry;
+    VUtils::PluginRegistry registry;  // its libraries close after the destructor resets the host
     std::unique_ptr<PluginPath> plugins;
     vrayrender::RenderRecord rendered;  // the totals; the frames go out as they finish
     size_t framesDone = 0;
