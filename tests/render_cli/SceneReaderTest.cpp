@@ -201,6 +201,12 @@ TEST_F(SceneReaderTest, ForcedConnectionReplacesTheIncomingOne) {
     EXPECT_EQ(mayahost::nodeName(sources[0].node()), "otherShape");
 }
 
+TEST_F(SceneReaderTest, NameOfASkippedNodeCanBeUsedAgain) {
+    ASSERT_TRUE(read(kPrelude + "createNode camera -n \"cam\";\ncreateNode transform -n \"cam\";\n"
+                                "setAttr \"cam.tx\" 4;\n"));
+    EXPECT_EQ(plug("cam", "translateX").asDouble(), 4.0);
+}
+
 TEST_F(SceneReaderTest, SharedNodeThatExistsIsSelectedNotMadeAgain) {
     ASSERT_TRUE(
         read(kPrelude + "createNode xrVellMaya -s -n \"furShape\";\n\tsetAttr \".rd\" 3;\n"));

@@ -205,6 +205,7 @@ bool SceneReader::createInHost(const std::string& type, const std::string& name,
     mayahost::findNodeType(type, &info);
     const std::string key = name.empty() ? mayahost::nodeName(object) : name;
     nodes[key] = SceneNode{object, type, info.pluginPath.empty()};
+    skippedNodes.erase(key);  // a name an earlier, skipped node had
     created.push_back(object);
     select(key);
     return true;
