@@ -31,10 +31,10 @@ protected:
 }  // namespace
 
 TEST_F(AnimatedParameter, OnlyTheTwoAnimatedParametersAnswerTheKeyframeInterface) {
-    for (const std::string& name :
+    for (const char* name :
          {"density", "length", "width", "verbosity", "imageSearchPath", "dynamicHairTesselation",
           "segmentLength", "obeyROI", "minROI", "maxROI"})
-        EXPECT_EQ(keyframes(*request, name.c_str()), nullptr) << name;
+        EXPECT_EQ(keyframes(*request, name), nullptr) << name;
     EXPECT_STREQ(samplesKeys->getInterfaceName(), "EXT_ANIMATEDPARAM");
     EXPECT_EQ(samplesKeys->getPlugin(), nullptr);
     EXPECT_EQ(samplesKeys->numKeyframesPerFrame(), 0);

@@ -10,7 +10,7 @@ namespace vrayrender {
 
 // The request object the renderer hands one custom geometry node during translation. It owns
 // the plugin instances it makes; they live until the request is destroyed.
-class GeomRequest : public VUtils::VRayGeomInfo {
+class GeomRequest final : public VUtils::VRayGeomInfo {
 public:
     GeomRequest(VUtils::PluginRegistry* registry, bool reuseInstances, int* instanceCounter);
     GeomRequest(const GeomRequest&) = delete;
