@@ -29,11 +29,13 @@ int DefStringParam::getType(int, double) { return paramTypeString; }
 
 PluginBase* DefStringParam::getPlugin() { return asPlugin(); }
 
-// Copying before freeing keeps a caller that passes our own text safe.
+// The old text is freed before the new one is read, so callers must not pass our own
+// string back to us. The value is null while copying, so a failed allocation leaves
+// nothing dangling.
 void DefStringParam::setString(const char* text, int, double) {
-    char* copy = duplicateString(text);
     delete[] value;
-    value = copy;
+    value = nullptr;
+    value = duplicateString(text);
 }
 
 VRayPluginParameter* DefStringParam::clone() {

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "ProbeParam.h"
+#include "params/AnimatedParameterInterface.h"
 #include "vray/VRayContext.h"
 
 using VUtils::AColor;
@@ -65,6 +66,41 @@ TEST(DefParamBaseConversion, FollowsTheTypeTable) {
     }
 }
 
+// Summed left to right before the multiply: (1e8 + -1e8) + 1 is 1, while
+// 1e8 + (-1e8 + 1) is 0 in float, and so is (1 + 1e8) + -1e8.
+TEST(DefParamBaseConversion, ThirdOfTheSumKeepsTheOrderOfTheSum) {
+    const struct {
+        int type;
+        Color rgb;
+        float asFloat;
+    } rows[] = {
+        {5, {1e8f, -1e8f, 1.0f}, 0.33333334f},
+        {6, {1e8f, -1e8f, 1.0f}, 0.33333334f},
+        {5, {1.0f, 1e8f, -1e8f}, 0.0f},
+        {6, {1.0f, 1e8f, -1e8f}, 0.0f},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.type);
+        ProbeParam p(row.type);
+        p.c = row.rgb;
+        p.a = AColor{row.rgb, 7.0f};
+        EXPECT_EQ(row.asFloat, p.getFloat(0, 0.0));
+    }
+}
+
+// The base has no conversion into the kind a class stores itself: that class answers.
+TEST(DefParamBaseConversion, OwnKindIsLeftToTheClass) {
+    ProbeParam floatKind(1);
+    ProbeParam colorKind(5);
+    ProbeParam acolorKind(6);
+    for (ProbeParam* p : {&floatKind, &colorKind, &acolorKind}) {
+        fillValues(*p);
+    }
+    EXPECT_EQ(0.0f, floatKind.DefParamBase::getFloat(3, 1.5));
+    expectColor(Color{0, 0, 0}, colorKind.DefParamBase::getColor(3, 1.5));
+    expectAColor(AColor{{0, 0, 0}, 0}, acolorKind.DefParamBase::getAColor(3, 1.5));
+}
+
 TEST(DefParamBaseConversion, DoubleIsNarrowedNotTruncated) {
     ProbeParam p(2);
     fillValues(p);
@@ -83,9 +119,12 @@ TEST(DefParamBaseConversion, BoolIsTheIntegerUnchanged) {
     }
 }
 
+// A parameter base that stores nothing and overrides nothing.
 TEST(DefParamBaseDefaults, AnswerNoValue) {
-    ProbeParam p(10000);
+    VUtils::DefParamBase p("bare");
     VUtils::VRayPluginParameter& base = p;
+    EXPECT_EQ(10000, base.getType(0, 0.0));
+    EXPECT_EQ(0.0f, base.getFloat(0, 0.0));
     EXPECT_EQ(-1, base.getCount(0.0));
     EXPECT_EQ(nullptr, base.openList(0));
     EXPECT_EQ(nullptr, base.openList(0, 1.0));
@@ -100,6 +139,33 @@ TEST(DefParamBaseDefaults, AnswerNoValue) {
     EXPECT_EQ(nullptr, list.refCounter);
     EXPECT_EQ(0, list.length);
     EXPECT_EQ(0, list.type);
+}
+
+TEST(DefParamBaseDefaults, TexturesAreNeitherConstantNorInstanceDependentNorBumpy) {
+    VUtils::DefParamBase p("bare");
+    const VUtils::VRayContext context{};
+    AColor color{{1, 1, 1}, 1};
+    float value = 1.0f;
+    EXPECT_FALSE(static_cast<VUtils::TextureInterface&>(p).isConstant(color));
+    EXPECT_FALSE(p.isInstanceDependent(nullptr));
+    EXPECT_FALSE(static_cast<VUtils::TextureFloatInterface&>(p).isConstant(value));
+    for (const VUtils::Vector& gradient :
+         {p.getColorBumpGradient(context), p.getFloatBumpGradient(context)}) {
+        EXPECT_EQ(0.0f, gradient.x);
+        EXPECT_EQ(0.0f, gradient.y);
+        EXPECT_EQ(0.0f, gradient.z);
+    }
+    const VUtils::Matrix vectorGradient = p.getVectorBumpGradient(context);
+    for (const VUtils::Vector& col : vectorGradient.m) {
+        EXPECT_EQ(0.0f, std::fabs(col.x) + std::fabs(col.y) + std::fabs(col.z));
+    }
+
+    struct NoKeyframes : VUtils::AnimatedParameterInterface {
+        void clearKeyFrames(double, int) override {}
+        void createKeyFrame(double, int) override {}
+    } keyframes;
+    EXPECT_EQ(0, keyframes.numKeyframesPerFrame());
+    EXPECT_EQ(nullptr, keyframes.getPlugin());
 }
 
 TEST(DefParamBaseTexture, AnswersTheValueAtIndexZeroTimeZero) {

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "params/DefFloatListParam.h"
@@ -100,6 +102,35 @@ TEST(FloatListSetFloat, OtherKindsConvertThenGoThroughSetFloat) {
               elementsOf(list));
 }
 
+namespace {
+
+// Notes what reaches setFloat instead of storing it.
+class SetFloatSpy : public DefFloatListParam {
+public:
+    SetFloatSpy() : DefFloatListParam("spy") {}
+    void setFloat(float value, int index, double time) override {
+        values.push_back(value);
+        indices.push_back(index);
+        times.push_back(time);
+    }
+    std::vector<float> values;
+    std::vector<int> indices;
+    std::vector<double> times;
+};
+
+}  // namespace
+
+TEST(FloatListSetFloat, OtherKindsReachAnOverridingSetFloat) {
+    SetFloatSpy spy;
+    spy.setInt(16777217, 4, 2.5);
+    spy.setBool(5, -1, 0.5);
+    spy.setDouble(0.1, 7, -3.0);
+    EXPECT_EQ((std::vector<float>{16777216.0f, 5.0f, 0.1f}), spy.values);
+    EXPECT_EQ((std::vector<int>{4, -1, 7}), spy.indices);
+    EXPECT_EQ((std::vector<double>{2.5, 0.5, -3.0}), spy.times);
+    EXPECT_EQ(0, spy.getCount(0.0));
+}
+
 TEST(FloatListReaders, ConvertEachElement) {
     DefFloatListParam list("l");
     std::vector<float> values{-2.7f, 1e-13f, std::nanf(""), 3e9f};
@@ -139,6 +170,25 @@ TEST(FloatListSetFloatList, KeepsCapacityAndCopiesTheValues) {
     EXPECT_EQ((std::vector<float>{4, 5, 6}), elementsOf(list));
     list.setFloatList(PtrArray<float>{}, 0.0);
     EXPECT_EQ(0, list.getCount(0.0));
+}
+
+// The elements are never read: the capacity is refused first.
+TEST(FloatListSetFloatList, CapacityBeyondTheLargestArrayIsRefused) {
+    const struct {
+        int step;
+        int length;
+    } rows[] = {{100, INT_MAX}, {100, INT_MAX - 47}, {0, INT_MAX}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.length);
+        DefFloatListParam list("l");
+        list.getTable().setStep(row.step);
+        appendValues(list, 3);
+        const int capacity = list.getTable().capacity();
+        EXPECT_THROW(list.setFloatList(PtrArray<float>{nullptr, nullptr, row.length, 0}, 0.0),
+                     std::bad_array_new_length);
+        EXPECT_EQ((std::vector<float>{0, 1, 2}), elementsOf(list));
+        EXPECT_EQ(capacity, list.getTable().capacity());
+    }
 }
 
 TEST(FloatListSetFloatList, GrowingKeepsNothingStale) {

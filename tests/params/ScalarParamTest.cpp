@@ -174,9 +174,6 @@ TEST(DefStringParam, OwnsItsText) {
     buffer[0] = 'x';
     EXPECT_STREQ("abc", p.getString(0, 0.0));
 
-    p.setString(p.getString(0, 0.0), 0, 0.0);
-    EXPECT_STREQ("abc", p.getString(0, 0.0));
-
     p.setInt(1, 0, 0.0);
     EXPECT_STREQ("abc", p.getString(0, 0.0));
 

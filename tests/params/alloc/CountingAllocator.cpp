@@ -1,5 +1,5 @@
 // Replaces the global allocation functions of this test executable so a test can
-// tell whether a call allocated.
+// tell whether a call allocated, and whether it freed before it allocated.
 #include "CountingAllocator.h"
 
 #include <atomic>
@@ -9,9 +9,17 @@
 namespace {
 
 std::atomic<std::size_t> allocations{0};
+std::atomic<std::size_t> releases{0};
+std::atomic<std::size_t> releasesAtLastAllocation{0};
+
+void count() {
+    allocations.fetch_add(1, std::memory_order_relaxed);
+    releasesAtLastAllocation.store(releases.load(std::memory_order_relaxed),
+                                   std::memory_order_relaxed);
+}
 
 void* allocate(std::size_t size) {
-    allocations.fetch_add(1, std::memory_order_relaxed);
+    count();
     if (void* p = std::malloc(size ? size : 1)) {
         return p;
     }
@@ -19,13 +27,24 @@ void* allocate(std::size_t size) {
 }
 
 void* allocateNothrow(std::size_t size) noexcept {
-    allocations.fetch_add(1, std::memory_order_relaxed);
+    count();
     return std::malloc(size ? size : 1);
+}
+
+void release(void* p) noexcept {
+    if (p) {
+        releases.fetch_add(1, std::memory_order_relaxed);
+    }
+    std::free(p);
 }
 
 }  // namespace
 
 std::size_t heapAllocations() { return allocations.load(std::memory_order_relaxed); }
+std::size_t heapReleases() { return releases.load(std::memory_order_relaxed); }
+std::size_t heapReleasesAtLastAllocation() {
+    return releasesAtLastAllocation.load(std::memory_order_relaxed);
+}
 
 void* operator new(std::size_t size) { return allocate(size); }
 void* operator new[](std::size_t size) { return allocate(size); }
@@ -35,9 +54,9 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
     return allocateNothrow(size);
 }
-void operator delete(void* p) noexcept { std::free(p); }
-void operator delete[](void* p) noexcept { std::free(p); }
-void operator delete(void* p, std::size_t) noexcept { std::free(p); }
-void operator delete[](void* p, std::size_t) noexcept { std::free(p); }
-void operator delete(void* p, const std::nothrow_t&) noexcept { std::free(p); }
-void operator delete[](void* p, const std::nothrow_t&) noexcept { std::free(p); }
+void operator delete(void* p) noexcept { release(p); }
+void operator delete[](void* p) noexcept { release(p); }
+void operator delete(void* p, std::size_t) noexcept { release(p); }
+void operator delete[](void* p, std::size_t) noexcept { release(p); }
+void operator delete(void* p, const std::nothrow_t&) noexcept { release(p); }
+void operator delete[](void* p, const std::nothrow_t&) noexcept { release(p); }

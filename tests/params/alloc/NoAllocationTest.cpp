@@ -79,3 +79,18 @@ TEST(NoAllocation, TheCounterSeesAllocations) {
     s.setString("abc", 0, 0.0);
     EXPECT_EQ(before + 2, heapAllocations());
 }
+
+// The old text is given back before the new copy is made.
+TEST(StringReplacement, FreesTheOldTextBeforeCopying) {
+    VUtils::DefStringParam s("s");
+    s.setString("abc", 0, 0.0);
+    const std::size_t allocations = heapAllocations();
+    const std::size_t releases = heapReleases();
+    s.setString("xyz", 0, 0.0);
+    EXPECT_EQ(allocations + 1, heapAllocations());
+    EXPECT_EQ(releases + 1, heapReleases());
+    EXPECT_EQ(releases + 1, heapReleasesAtLastAllocation());
+    s.setString(nullptr, 0, 0.0);
+    EXPECT_EQ(allocations + 1, heapAllocations());
+    EXPECT_EQ(releases + 2, heapReleases());
+}

@@ -1,9 +1,13 @@
 // Objects whose every operation only notes its own name, built from the plug-in's
 // declarations, so the view can check that each of its slots reaches the operation
-// of the same name, defaults included.
+// of the same name, defaults included. Where two slots of a real class would give the
+// same answer, a subclass of that class notes which of the two was reached.
 #include "ViewFactory.h"
 
 #include "params/AnimatedParameterInterface.h"
+#include "params/DefFloatListParam.h"
+#include "params/DefFloatParam.h"
+#include "params/DefIntParam.h"
 #include "params/TextureFloatInterface.h"
 #include "params/TextureInterface.h"
 #include "params/TextureVectorInterface.h"
@@ -117,13 +121,18 @@ public:
     }
 };
 
-// The texture interfaces' own defaults are kept; only the abstract operations note.
+// Defaulted operations note too: their defaults all answer false or zero, so only
+// the name tells the slots apart.
 class RecordingTexture : public Recording<TextureInterface> {
 public:
     AColor getTexColor(const VRayContext&) override { return note<AColor>("getTexColor"); }
     void getTexColorBounds(AColor&, AColor&) override { note("getTexColorBounds"); }
     Vector getColorBumpGradient(const VRayContext&) override {
         return note<Vector>("getColorBumpGradient");
+    }
+    bool isConstant(AColor&) override { return note<bool>("isConstant(AColor)"); }
+    bool isInstanceDependent(const VRayRenderer*) override {
+        return note<bool>("isInstanceDependent");
     }
 };
 
@@ -134,6 +143,7 @@ public:
     Vector getFloatBumpGradient(const VRayContext&) override {
         return note<Vector>("getFloatBumpGradient");
     }
+    bool isConstant(float&) override { return note<bool>("isConstant(float)"); }
 };
 
 class RecordingVectorTexture : public Recording<TextureVectorInterface> {
@@ -144,13 +154,40 @@ public:
     void getTexVectorBounds(simd::Vector3f&, simd::Vector3f&) override {
         note("getTexVectorBounds");
     }
+    Matrix getVectorBumpGradient(const VRayContext&) override {
+        return note<Matrix>("getVectorBumpGradient");
+    }
 };
 
 class RecordingAnimated : public AnimatedParameterInterface {
 public:
     void clearKeyFrames(double, int) override { note("clearKeyFrames"); }
     void createKeyFrame(double, int) override { note("createKeyFrame"); }
+    int numKeyframesPerFrame() override { return note<int>("numKeyframesPerFrame"); }
 };
+
+// Both bump gradients of the base answer zero.
+class RecordingBumpGradients : public DefParamBase {
+public:
+    RecordingBumpGradients() : DefParamBase("gradients") {}
+    Vector getColorBumpGradient(const VRayContext&) override {
+        return note<Vector>("getColorBumpGradient");
+    }
+    Vector getFloatBumpGradient(const VRayContext&) override {
+        return note<Vector>("getFloatBumpGradient");
+    }
+};
+
+// setInt and setBool store the same value in every class that has them.
+template <class Param>
+class RecordingIntAndBool : public Param {
+public:
+    using Param::Param;
+    void setInt(int, int, double) override { note("setInt"); }
+    void setBool(int, int, double) override { note("setBool"); }
+};
+
+void* asRendererSees(VRayPluginParameter* param) { return param; }
 
 }  // namespace
 
@@ -169,5 +206,19 @@ void* newRecordingVectorTexture() {
 }
 
 void* newRecordingAnimated() { return static_cast<PluginInterface*>(new RecordingAnimated); }
+
+void* newRecordingBumpGradients() { return asRendererSees(new RecordingBumpGradients); }
+
+void* newRecordingIntSetters() {
+    return asRendererSees(new RecordingIntAndBool<DefIntParam>("i", 0));
+}
+
+void* newRecordingFloatSetters() {
+    return asRendererSees(new RecordingIntAndBool<DefFloatParam>("f", 0.0f));
+}
+
+void* newRecordingFloatListSetters() {
+    return asRendererSees(new RecordingIntAndBool<DefFloatListParam>("l"));
+}
 
 }  // namespace viewfactory

@@ -21,6 +21,12 @@ void* newRecordingTexture();
 void* newRecordingFloatTexture();
 void* newRecordingVectorTexture();
 void* newRecordingAnimated();
+// Real classes with only their look-alike operations noting: a parameter base's two
+// bump gradients; setInt and setBool of the integer, float and float-list classes.
+void* newRecordingBumpGradients();
+void* newRecordingIntSetters();
+void* newRecordingFloatSetters();
+void* newRecordingFloatListSetters();
 std::vector<std::string>& recordedCalls();
 
 }  // namespace viewfactory
