@@ -130,13 +130,18 @@ TEST_F(AnimatedParameter, TheFileNameIsForTheLastKeyframesFrameTruncated) {
     EXPECT_EQ(asked[1].second, 1);
 }
 
-TEST_F(AnimatedParameter, EveryReadReplacesTheStoredText) {
+// The old text's address may come back from the allocator, so what shows the replacement is a
+// fresh answer from the fur node on every read (and, under the leak checker, nothing left over).
+TEST_F(AnimatedParameter, EveryReadAsksTheFurNodeAgainAndReplacesTheStoredText) {
     fileKeys->createKeyFrame(3.0, 0);
-    const char* first = readFile(0.0);
-    const std::string copy = first;
-    const char* second = readFile(0.0);
-    EXPECT_NE(first, second);
-    EXPECT_EQ(copy, second);
+    const std::string first = readFile(0.0);
+    mayahost::findPlug(fur, "cacheFilePattern").setString("/elsewhere/hair.####.xvc");
+    const std::string second = readFile(0.0);
+    const std::string third = readFile(0.0);
+    EXPECT_EQ(first, "/cache/hair.0003.xvc");
+    EXPECT_EQ(second, "/elsewhere/hair.0003.xvc");
+    EXPECT_EQ(third, second);
+    EXPECT_EQ(callsOf(FurOperation::GetCacheFileName).size(), 3u);
 }
 
 TEST_F(AnimatedParameter, WithoutAFurNodeTheFileIsEmpty) {

@@ -11,6 +11,49 @@ void vrayrender::PrintTo(const RecordedValue& value, std::ostream* out) {
          << " list of " << value.list.size();
 }
 
+const std::vector<std::string> kAttachOrder = {
+    "sampleGenerator", "density",         "length", "width",
+    "verbosity",       "imageSearchPath", "file",   "dynamicHairTesselation",
+    "segmentLength",   "obeyROI",         "minROI", "maxROI"};
+
+using vrayrender::RecordedValue;
+
+RecordedValue intValue(int v) {
+    RecordedValue value;
+    value.kind = RecordedValue::Kind::Int;
+    value.intValue = v;
+    return value;
+}
+
+RecordedValue floatValue(float v) {
+    RecordedValue value;
+    value.kind = RecordedValue::Kind::Float;
+    value.number = v;
+    return value;
+}
+
+RecordedValue vectorValue(float x, float y, float z) {
+    RecordedValue value;
+    value.kind = RecordedValue::Kind::Vector;
+    value.vector[0] = x;
+    value.vector[1] = y;
+    value.vector[2] = z;
+    return value;
+}
+
+RecordedValue textValue(const std::string& text) {
+    RecordedValue value;
+    value.kind = RecordedValue::Kind::String;
+    value.text = text;
+    return value;
+}
+
+RecordedValue emptyList() {
+    RecordedValue value;
+    value.kind = RecordedValue::Kind::FloatList;
+    return value;
+}
+
 void ExportScene::SetUp() {
     FurScene::SetUp();
     registry.loadDirectories({FUR_VRAY_DIR});
@@ -57,16 +100,29 @@ VUtils::AnimatedParameterInterface* ExportScene::keyframes(vrayrender::GeomReque
 
 std::vector<std::string> ExportScene::parameterNames(vrayrender::GeomRequest& request) {
     std::vector<std::string> names;
-    VUtils::VRayParameterList* list =
-        request.current() ? request.current()->getParameterList() : nullptr;
-    for (int i = 0; list && i < list->getNumParams(); ++i)
-        names.push_back(list->getParam(i)->getName());
+    for (VUtils::VRayPluginParameter* entry : entries(request.current()))
+        names.push_back(entry->getName());
     return names;
+}
+
+std::vector<VUtils::VRayPluginParameter*> ExportScene::entries(VUtils::VRayPlugin* instance) {
+    std::vector<VUtils::VRayPluginParameter*> found;
+    VUtils::VRayParameterList* list = instance ? instance->getParameterList() : nullptr;
+    for (int i = 0; list && i < list->getNumParams(); ++i) found.push_back(list->getParam(i));
+    return found;
 }
 
 vrayrender::RecordedValue ExportScene::value(vrayrender::GeomRequest& request, const char* name) {
     VUtils::VRayPluginParameter* found = parameter(request, name);
     return found ? vrayrender::readParameter(*found, 0.0) : vrayrender::RecordedValue();
+}
+
+std::map<std::string, vrayrender::RecordedValue> ExportScene::values(
+    vrayrender::GeomRequest& request) {
+    std::map<std::string, vrayrender::RecordedValue> all;
+    for (VUtils::VRayPluginParameter* entry : entries(request.current()))
+        all[entry->getName()] = vrayrender::readParameter(*entry, 0.0);
+    return all;
 }
 
 std::vector<float> ExportScene::samples(vrayrender::GeomRequest& request) {

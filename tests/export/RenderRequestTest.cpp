@@ -5,54 +5,12 @@
 
 #include "ExportScene.h"
 
-using Kind = vrayrender::RecordedValue::Kind;
 using vrayrender::RecordedValue;
 
 namespace {
 
-const std::vector<std::string> kAttachOrder = {
-    "sampleGenerator", "density",         "length", "width",
-    "verbosity",       "imageSearchPath", "file",   "dynamicHairTesselation",
-    "segmentLength",   "obeyROI",         "minROI", "maxROI"};
-
 const char* const kMissingPlugin =
     "xrVellMayaVRay::xrVellVRay plugin doesn't exsist, please check your VRAY plugin paths.";
-
-RecordedValue intValue(int v) {
-    RecordedValue value;
-    value.kind = Kind::Int;
-    value.intValue = v;
-    return value;
-}
-
-RecordedValue floatValue(float v) {
-    RecordedValue value;
-    value.kind = Kind::Float;
-    value.number = v;
-    return value;
-}
-
-RecordedValue vectorValue(float x, float y, float z) {
-    RecordedValue value;
-    value.kind = Kind::Vector;
-    value.vector[0] = x;
-    value.vector[1] = y;
-    value.vector[2] = z;
-    return value;
-}
-
-RecordedValue textValue(const std::string& text) {
-    RecordedValue value;
-    value.kind = Kind::String;
-    value.text = text;
-    return value;
-}
-
-RecordedValue emptyList() {
-    RecordedValue value;
-    value.kind = Kind::FloatList;
-    return value;
-}
 
 class RenderRequest : public ExportScene {};
 
@@ -160,8 +118,15 @@ TEST_F(RenderRequest, WithoutARendererNothingIsMadeOrSaid) {
 TEST_F(RenderRequest, AnInstanceHandedBackGetsNoSecondSetOfParameters) {
     auto request = newRequest(true);
     translate(bridge, *request);
+    VUtils::VRayPlugin* instance = request->current();
+    const std::vector<VUtils::VRayPluginParameter*> attached = entries(instance);
+    ASSERT_EQ(attached.size(), 12u);
+
     translate(bridge, *request);
     EXPECT_FALSE(request->madeNewInstance());
+    EXPECT_EQ(request->current(), instance);
+    // The list keeps every parameter it is given, so a second attach would show as 24 entries.
+    EXPECT_EQ(entries(instance), attached);
     EXPECT_EQ(parameterNames(*request), kAttachOrder);
     EXPECT_EQ(instanceCounter, 1);
 }
@@ -170,20 +135,47 @@ TEST_F(RenderRequest, AFreshInstanceGetsAllTwelveAgain) {
     auto request = newRequest(false);
     translate(bridge, *request);
     VUtils::VRayPlugin* first = request->current();
+    const std::vector<VUtils::VRayPluginParameter*> attachedFirst = entries(first);
+    ASSERT_EQ(attachedFirst.size(), 12u);
+
     translate(bridge, *request);
     EXPECT_NE(request->current(), first);
     EXPECT_TRUE(request->madeNewInstance());
     EXPECT_EQ(parameterNames(*request), kAttachOrder);
+    // The same twelve objects of the node, once each; the earlier instance gains nothing.
+    EXPECT_EQ(entries(request->current()), attachedFirst);
+    EXPECT_EQ(entries(first), attachedFirst);
     EXPECT_EQ(instanceCounter, 2);
 }
 
 TEST_F(RenderRequest, OnlyTheResultIsComputed) {
+    mayahost::findPlug(fur, "renderDensity").setFloat(2.0f);
+    auto request = newRequest();
+    translate(bridge, *request);
+    const std::map<std::string, RecordedValue> before = values(*request);
+    ASSERT_EQ(before.at("density"), floatValue(2.0f));
+    furCalls().clear();
+    mayahost::clearMessages();
+
+    // Settings a refresh would pick up, had any of these computes done one.
     mayahost::findPlug(fur, "renderDensity").setFloat(9.0f);
+    mayahost::findPlug(fur, "verbosity").setShort(3);
+    mayahost::findPlug(fur, "imageSearchPath").setString("/changed");
+    mayahost::findPlug(fur, "obeyROI").setBool(true);
+    mayahost::findPlug(fur, "roiMaxX").setDouble(8.0);
     for (const char* other : {"outApiType", "outApiClassification", "vrayGeomInfo", "currentTime"})
         EXPECT_EQ(mayahost::compute(mayahost::findPlug(bridge, other)), MStatus::kUnknownParameter)
             << other;
+
     EXPECT_TRUE(furCalls().empty());
+    EXPECT_TRUE(mayahost::messages().empty());
+    EXPECT_EQ(instanceCounter, 1);
+    EXPECT_EQ(entries(request->current()).size(), 12u);
+    EXPECT_EQ(value(*request, "density"), floatValue(2.0f));
+    EXPECT_EQ(values(*request), before);
     EXPECT_STREQ(mayahost::findPlug(bridge, "outApiType").asString().asChar(), "VRayGeometry");
+    EXPECT_STREQ(mayahost::findPlug(bridge, "outApiClassification").asString().asChar(),
+                 "geometry");
 }
 
 TEST_F(RenderRequest, ComputeSucceedsWithZeroWhateverIsMissing) {

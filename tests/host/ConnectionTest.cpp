@@ -11,14 +11,6 @@ const unsigned int kFurDataId = 0x1158C6;
 
 class Connections : public FurScene {};
 
-// Gives a node of any type an output of the fur product's data type, as addAttr would.
-void addFurOutput(const MObject& node) {
-    MFnTypedAttribute typed;
-    MObject attribute = typed.create("furOut", "fo", MTypeId(kFurDataId));
-    MObject target = node;
-    ASSERT_EQ(MFnDependencyNode(target).addAttribute(attribute), MStatus::kSuccess);
-}
-
 std::vector<std::string> namesOf(const MPlugArray& plugs) {
     std::vector<std::string> names;
     for (unsigned int i = 0; i < plugs.length(); ++i) names.push_back(plugs[i].name().asChar());

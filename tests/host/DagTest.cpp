@@ -101,14 +101,26 @@ TEST_F(Dag, NestedTransformsApplyInnermostFirst) {
 }
 
 TEST_F(Dag, DeletingATransformTakesItsChildrenAndDeletingAShapeLeavesItsTransform) {
-    MObject first = mayahost::createNode("mesh");
+    MObject first = mayahost::createNode("mesh", "firstShape");
     MObject firstTransform = parentOf(first);
+    const std::string transformName = mayahost::nodeName(firstTransform);
+    ASSERT_FALSE(transformName.empty());
     ASSERT_EQ(mayahost::deleteNode(first), MStatus::kSuccess);
-    EXPECT_EQ(MFnDagNode(firstTransform).childCount(), 0u);
+    EXPECT_EQ(mayahost::nodeName(first), "");
+    EXPECT_EQ(mayahost::nodeName(firstTransform), transformName);
+    EXPECT_TRUE(mayahost::findNode(transformName) == firstTransform);
+    MStatus bound = MStatus::kFailure;
+    MFnDagNode transform(firstTransform, &bound);
+    EXPECT_EQ(bound, MStatus::kSuccess);
+    EXPECT_EQ(transform.childCount(), 0u);
 
-    MObject second = mayahost::createNode("mesh");
-    ASSERT_EQ(mayahost::deleteNode(parentOf(second)), MStatus::kSuccess);
+    MObject second = mayahost::createNode("mesh", "secondShape");
+    MObject secondTransform = parentOf(second);
+    ASSERT_EQ(mayahost::deleteNode(secondTransform), MStatus::kSuccess);
     EXPECT_EQ(mayahost::nodeName(second), "");
+    EXPECT_EQ(mayahost::nodeName(secondTransform), "");
+    MFnDagNode gone(secondTransform, &bound);
+    EXPECT_EQ(bound, MStatus::kInvalidParameter);
 }
 
 TEST_F(Dag, DagFunctionSetsRefuseDependencyNodes) {

@@ -1,6 +1,4 @@
 // How the bridge node finds the fur node connected to inputData and reports its box.
-#include <maya/MFnDependencyNode.h>
-#include <maya/MFnTypedAttribute.h>
 #include <maya/MPxSurfaceShape.h>
 
 #include <functional>
@@ -15,24 +13,16 @@ const char* const kBoxError = "xrVellMayaVRay accessing invalid node - getConnec
 
 bool isEmpty(const MBoundingBox& box) { return !box.contains(box.min()); }
 
-// What addAttr does: an output of the fur data type on a node of any type.
-std::string furOutputOn(const MObject& node) {
-    MFnTypedAttribute typed;
-    MObject attribute = typed.create("furOut", "fo", MTypeId(0x1158C6));
-    MObject target = node;
-    MFnDependencyNode(target).addAttribute(attribute);
-    return mayahost::nodeName(node) + ".furOut";
-}
-
 struct WrongType {
     const char* what;
     std::function<std::string()> source;  // makes the node, returns the plug to connect
 };
 
 const WrongType kWrongTypes[] = {
-    {"a transform", [] { return furOutputOn(mayahost::createNode("transform", "t")); }},
-    {"a mesh", [] { return furOutputOn(mayahost::createNode("mesh", "m")); }},
-    {"the time node, not a DAG node", [] { return furOutputOn(mayahost::findNode("time1")); }},
+    {"a transform", [] { return FurScene::addFurOutput(mayahost::createNode("transform", "t")); }},
+    {"a mesh", [] { return FurScene::addFurOutput(mayahost::createNode("mesh", "m")); }},
+    {"the time node, not a DAG node",
+     [] { return FurScene::addFurOutput(mayahost::findNode("time1")); }},
     {"a type whose name starts like the fur node's",
      [] {
          mayahost::createNode("xrVellMayaPreview", "p");

@@ -3,26 +3,40 @@
 
 #include <cstdio>
 #include <cstring>
+#include <map>
 #include <set>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "HostTest.h"
 
 namespace {
 
-std::set<std::string> definedDynamicSymbols(const std::string& library) {
-    const std::string command = std::string(NM_COMMAND) + " -D --defined-only " + library;
-    std::set<std::string> names;
+struct DynamicSymbol {
+    unsigned long size = 0;  // bytes; 0 when nm gives none
+    char type = '?';         // nm's letter: 'T' code, 'D' writable data, 'R' read-only data
+};
+
+// The library's defined dynamic symbols by name, as "nm -D -S --defined-only" lists them.
+std::map<std::string, DynamicSymbol> definedDynamicSymbols(const std::string& library) {
+    const std::string command = std::string(NM_COMMAND) + " -D -S --defined-only " + library;
+    std::map<std::string, DynamicSymbol> symbols;
     FILE* pipe = popen(command.c_str(), "r");
-    if (!pipe) return names;
+    if (!pipe) return symbols;
     char line[1024];
     while (std::fgets(line, sizeof line, pipe)) {
-        std::string text(line);
-        while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.pop_back();
-        names.insert(text.substr(text.rfind(' ') + 1));
+        std::istringstream fields(line);
+        std::vector<std::string> parts;
+        for (std::string part; fields >> part;) parts.push_back(part);
+        if (parts.size() < 3) continue;
+        DynamicSymbol symbol;
+        if (parts.size() >= 4) symbol.size = std::stoul(parts[1], nullptr, 16);
+        symbol.type = parts[parts.size() - 2][0];
+        symbols[parts.back()] = symbol;
     }
     pclose(pipe);
-    return names;
+    return symbols;
 }
 
 }  // namespace
@@ -33,7 +47,20 @@ TEST(ExportedSymbols, ExactlyTheEntryPointsByTheirMangledNamesAndTheVersionRecor
         "_Z16initializePluginN8Autodesk4Maya16OpenMaya202200007MObjectE",
         "_Z18uninitializePluginN8Autodesk4Maya16OpenMaya202200007MObjectE",
     };
-    EXPECT_EQ(definedDynamicSymbols(kBridgePath), expected);
+    std::set<std::string> names;
+    for (const auto& symbol : definedDynamicSymbols(kBridgePath)) names.insert(symbol.first);
+    EXPECT_EQ(names, expected);
+}
+
+TEST(ExportedSymbols, ApiVersionIsNineBytesOfWritableData) {
+    const auto symbols = definedDynamicSymbols(kBridgePath);
+    const auto version = symbols.find("MApiVersion");
+    ASSERT_NE(version, symbols.end());
+    EXPECT_EQ(version->second.size, 9u);
+    EXPECT_EQ(version->second.type, 'D');
+    for (const char* entry : {"_Z16initializePluginN8Autodesk4Maya16OpenMaya202200007MObjectE",
+                              "_Z18uninitializePluginN8Autodesk4Maya16OpenMaya202200007MObjectE"})
+        EXPECT_EQ(symbols.at(entry).type, 'T') << entry;
 }
 
 TEST(ExportedSymbols, ApiVersionIsTheMaya2022RecordWithOneTerminator) {

@@ -7,6 +7,10 @@ namespace {
 const std::string kRegisterFailed =
     "registerNode failed: (kFailure): Unexpected Internal Failure\n";
 
+// The host's note of why it refused the type: the initialiser itself returned kFailure (1).
+const std::vector<std::string> kInitializerFailed = {
+    "attribute initialiser of \"xrVellMayaVRay\" failed with status 1"};
+
 struct AddFailure {
     int call;  // which addAttribute call fails, in the order the attributes are added
     const char* printed;
@@ -48,6 +52,7 @@ TEST_P(AddAttributeFailure, PrintsItsLineThenRefusesTheRegistration) {
 
     EXPECT_EQ(outcome.load.status, MStatus::kFailure);
     EXPECT_EQ(outcome.printed, GetParam().printed + kRegisterFailed);
+    EXPECT_EQ(mayahost::diagnostics(), kInitializerFailed);
     EXPECT_EQ(shown(Message::Channel::Perror), std::vector<std::string>{"registerNode failed"});
     EXPECT_FALSE(mayahost::findNodeType("xrVellMayaVRay"));
     EXPECT_TRUE(mayahost::loadedPlugins().empty());
@@ -76,6 +81,7 @@ TEST_F(AffectsFailure, TheThirdRelationFailsTheRegistration) {
     const LoadOutcome outcome = loadWith(faults);
     EXPECT_EQ(outcome.load.status, MStatus::kFailure);
     EXPECT_EQ(outcome.printed, "xrVellMayaVRay : error in attributeAffects\n" + kRegisterFailed);
+    EXPECT_EQ(mayahost::diagnostics(), kInitializerFailed);
     EXPECT_FALSE(mayahost::findNodeType("xrVellMayaVRay"));
 }
 

@@ -28,7 +28,7 @@ struct ListlessPlugin : VUtils::VRayPlugin {};
 
 }  // namespace
 
-TEST(ParameterList, KeepsParametersInTheOrderTheyWereFirstSet) {
+TEST(ParameterList, KeepsEveryParameterInTheOrderItWasSetDuplicatesIncluded) {
     Instance fur;
     ASSERT_NE(fur.plugin, nullptr);
     VUtils::DefFloatParam density("density", 1.0f), length("length", 2.0f), again("density", 3.0f);
@@ -36,15 +36,22 @@ TEST(ParameterList, KeepsParametersInTheOrderTheyWereFirstSet) {
     face->setParameter(&density);
     face->setParameter(&length);
     face->setParameter(&again);
+    face->setParameter(&length);
+    face->setParameter(nullptr);
 
     VUtils::VRayParameterList* list = face->getParameterList();
     ASSERT_NE(list, nullptr);
-    ASSERT_EQ(list->getNumParams(), 2);
-    EXPECT_EQ(list->getParam(0), &again);
+    ASSERT_EQ(list->getNumParams(), 4);
+    EXPECT_EQ(list->getParam(0), &density);
     EXPECT_EQ(list->getParam(1), &length);
+    EXPECT_EQ(list->getParam(2), &again);
+    EXPECT_EQ(list->getParam(3), &length);
+    // By name, the entry set first.
+    EXPECT_EQ(list->getParam("density"), &density);
     EXPECT_EQ(list->getParam("length"), &length);
     EXPECT_EQ(list->getParam("width"), nullptr);
-    EXPECT_EQ(list->getParam(2), nullptr);
+    EXPECT_EQ(list->getParam(static_cast<const char*>(nullptr)), nullptr);
+    EXPECT_EQ(list->getParam(4), nullptr);
     EXPECT_EQ(list->getParam(-1), nullptr);
 }
 

@@ -6,6 +6,7 @@
 #include <maya/MPlug.h>
 
 #include <algorithm>
+#include <cstring>
 
 #include "CacheFileName.h"
 #include "FurCallLog.h"
@@ -58,6 +59,16 @@ const NumericDefinition kRoiCorners[] = {
     {"roiMaxZ", "rxz", MFnNumericData::kDouble, 1.0},
 };
 
+#ifdef XRVELL_FUR_OMITTED_SETTING
+// A test build of the node without one of its render settings, to show what a reader of the
+// settings does with a fur node that lacks one.
+const char* const kOmittedSetting = XRVELL_FUR_OMITTED_SETTING;
+#else
+const char* const kOmittedSetting = "";
+#endif
+
+bool isOmitted(const char* longName) { return std::strcmp(longName, kOmittedSetting) == 0; }
+
 MStatus addNumeric(const NumericDefinition& definition, MObject* handle) {
     MFnNumericAttribute numeric;
     MObject attribute = numeric.create(definition.longName, definition.shortName, definition.type,
@@ -105,8 +116,10 @@ void* xrVellMaya::creator() { return new xrVellMaya; }
 MStatus xrVellMaya::initialize() {
     MStatus status = addOutput();
     for (const NumericDefinition& setting : kRenderSettings)
-        if (status == MStatus::kSuccess) status = addNumeric(setting, nullptr);
-    if (status == MStatus::kSuccess) status = addString("imageSearchPath", "isp", nullptr);
+        if (status == MStatus::kSuccess && !isOmitted(setting.longName))
+            status = addNumeric(setting, nullptr);
+    if (status == MStatus::kSuccess && !isOmitted("imageSearchPath"))
+        status = addString("imageSearchPath", "isp", nullptr);
     if (status == MStatus::kSuccess)
         status = addString("cacheFilePattern", "cfp", &cacheFilePattern);
     if (status == MStatus::kSuccess)

@@ -60,6 +60,27 @@ bool inUse(PluginObj* plugin) {
     return false;
 }
 
+// Registers the plug-in and runs its initializePlugin; a failed start leaves nothing behind.
+PluginLoad startPlugin(const std::string& path, void* library, const char* version,
+                       EntryPoint initialize, EntryPoint uninitialize) {
+    PluginLoad result;
+    auto* plugin = new PluginObj;
+    retain(plugin);
+    plugin->path = path;
+    plugin->library = library;
+    plugin->initialize = initialize;
+    plugin->uninitialize = uninitialize;
+    plugin->apiVersion = version;
+    state().plugins.push_back(plugin);
+    result.apiVersion = version;
+    result.status = initialize(Access::handle(plugin));
+    if (result.status != MStatus::kSuccess) {
+        result.error = "initializePlugin of '" + path + "' failed";
+        closePlugin(plugin);
+    }
+    return result;
+}
+
 }  // namespace
 
 void unloadAllPlugins() {
@@ -98,21 +119,21 @@ PluginLoad loadPlugin(const std::string& path) {
         dlclose(library);
         return result;
     }
-    auto* plugin = new PluginObj;
-    retain(plugin);
-    plugin->path = path;
-    plugin->library = library;
-    plugin->initialize = initialize;
-    plugin->uninitialize = uninitialize;
-    plugin->apiVersion = version;
-    state().plugins.push_back(plugin);
-    result.apiVersion = version;
-    result.status = initialize(Access::handle(plugin));
-    if (result.status != MStatus::kSuccess) {
-        result.error = "initializePlugin of '" + path + "' failed";
-        closePlugin(plugin);
+    return startPlugin(path, library, version, initialize, uninitialize);
+}
+
+PluginLoad loadLinkedPlugin(const std::string& name, PluginEntryPoint initialize,
+                            PluginEntryPoint uninitialize, const char* apiVersion) {
+    PluginLoad result;
+    if (findPlugin(name)) {
+        result.error = "plug-in '" + name + "' is already loaded";
+        return result;
     }
-    return result;
+    if (!initialize || !uninitialize || !apiVersion) {
+        result.error = "plug-in '" + name + "' lacks an entry point or its API version";
+        return result;
+    }
+    return startPlugin(name, nullptr, apiVersion, initialize, uninitialize);
 }
 
 MStatus unloadPlugin(const std::string& path, std::string* error) {

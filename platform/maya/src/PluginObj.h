@@ -12,7 +12,7 @@ using EntryPoint = MStatus (*)(MObject);
 
 struct PluginObj : Object {
     std::string path;
-    void* library = nullptr;
+    void* library = nullptr;  // null for a plug-in linked into the program
     EntryPoint initialize = nullptr;
     EntryPoint uninitialize = nullptr;
     std::string apiVersion;  // what the library's MApiVersion says

@@ -16,20 +16,15 @@ void VRayPluginInterface::setParameter(VRayPluginParameter* param) {
 }
 
 void VRayParameterList::setParameter(VRayPluginParameter* param) {
-    if (!param) return;
-    const char* name = param->getName();
-    for (VRayPluginParameter*& entry : params) {
-        if (name && std::strcmp(entry->getName(), name) == 0) {
-            entry = param;
-            return;
-        }
-    }
-    params.push_back(param);
+    if (param) params.push_back(param);
 }
 
 VRayPluginParameter* VRayParameterList::getParam(const char* name) const {
-    for (VRayPluginParameter* param : params)
-        if (name && std::strcmp(param->getName(), name) == 0) return param;
+    if (!name) return nullptr;
+    for (VRayPluginParameter* param : params) {
+        const char* entry = param->getName();
+        if (entry && std::strcmp(entry, name) == 0) return param;
+    }
     return nullptr;
 }
 

@@ -1,18 +1,20 @@
 #include "FurScene.h"
 
 #include <maya/MFnDagNode.h>
+#include <maya/MFnDependencyNode.h>
+#include <maya/MFnTypedAttribute.h>
 #include <maya/MPxSurfaceShape.h>
 
 const char* const kFurPluginPath = XRVELL_FUR_PLUGIN_PATH;
 
 void FurScene::SetUp() {
     HostTest::SetUp();
-    loadFur();
+    loadFur(furPluginPath());
     loadBridge();
 }
 
-void FurScene::loadFur() {
-    const mayahost::PluginLoad load = mayahost::loadPlugin(kFurPluginPath);
+void FurScene::loadFur(const std::string& path) {
+    const mayahost::PluginLoad load = mayahost::loadPlugin(path);
     ASSERT_TRUE(load) << load.error;
 }
 
@@ -30,6 +32,14 @@ void FurScene::connectFur(const MObject& fur, const MObject& bridge) {
                                 mayahost::findPlug(bridge, "inputData"), &error),
               MStatus::kSuccess)
         << error;
+}
+
+std::string FurScene::addFurOutput(const MObject& node) {
+    MFnTypedAttribute typed;
+    MObject attribute = typed.create("furOut", "fo", MTypeId(0x1158C6));
+    MObject target = node;
+    EXPECT_EQ(MFnDependencyNode(target).addAttribute(attribute), MStatus::kSuccess);
+    return mayahost::nodeName(node) + ".furOut";
 }
 
 void FurScene::setFurBox(const MObject& fur, const MPoint& min, const MPoint& max) {

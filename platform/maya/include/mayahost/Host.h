@@ -27,6 +27,11 @@ struct PluginLoad {
 
 // Loads a plug-in library as Maya does: dlopen, MApiVersion, then initializePlugin.
 PluginLoad loadPlugin(const std::string& path);
+// Loads a plug-in whose entry points and MApiVersion are linked into the calling program, so a
+// test can reach code a library would keep hidden. The name stands where a library's path would.
+using PluginEntryPoint = MStatus (*)(MObject);
+PluginLoad loadLinkedPlugin(const std::string& name, PluginEntryPoint initialize,
+                            PluginEntryPoint uninitialize, const char* apiVersion);
 // Calls uninitializePlugin and closes the library; a failing uninitializePlugin keeps it loaded.
 MStatus unloadPlugin(const std::string& path, std::string* error = nullptr);
 std::vector<std::string> loadedPlugins();

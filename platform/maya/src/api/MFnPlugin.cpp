@@ -39,7 +39,8 @@ MStatus registerType(std::unique_ptr<NodeType> type) {
     const MStatus status = raw->initialize ? raw->initialize() : MStatus(MStatus::kSuccess);
     host.initializing = nullptr;
     if (status != MStatus::kSuccess) {
-        diagnose("attribute initialiser of \"" + raw->name + "\" failed");
+        diagnose("attribute initialiser of \"" + raw->name + "\" failed with status " +
+                 std::to_string(static_cast<int>(status.statusCode())));
         removeType(raw);
         return MStatus::kFailure;
     }
