@@ -20,10 +20,11 @@ namespace {
 const char* const kPlugins[] = {"xrVellMaya", "xrVellVRayMaya"};
 size_t baselineNodes = 0;
 
-// Loading happens once; each input may only name the plug-ins already loaded.
+// Loading happens once; each input may only name the plug-ins already loaded, with or without
+// the file's ".so".
 std::string alreadyLoaded(const std::string& name) {
     for (const char* plugin : kPlugins)
-        if (name == plugin) return "";
+        if (name == plugin || name == std::string(plugin) + ".so") return "";
     return "not found";
 }
 

@@ -47,12 +47,78 @@ TEST(CommandLineTest, RefusesBadOptionsWithTheReason) {
         {{"-mbDuration", "-1", "a.ma"},
          "the motion blur duration (-mbDuration) must not be negative"},
         {{"-v", "3", "a.ma"}, "option -v expects 0, 1 or 2, not \"3\""},
+        {{"-e", "1e400", "a.ma"}, "option -e expects a number within double range, not \"1e400\""},
+        {{"-o", "", "a.ma"}, "option -o needs a file name (\"-\" for standard output)"},
+        // Frames that adding the step no longer moves, or that fall together further on.
+        {{"-s", "1e16", "a.ma"}, "frames near 1e+16 cannot be told apart with a step (-b) of 1"},
+        {{"-s", "9007199254740993", "a.ma"},
+         "frames near 9007199254740992 cannot be told apart with a step (-b) of 1"},
+        {{"-s", "1e15", "-e", "1.0000000001e15", "-b", "0.01", "a.ma"},
+         "frames near 1e+15 cannot be told apart with a step (-b) of 0.01"},
+        {{"-s", "4503599627370494", "-e", "4503599627370497", "-b", "0.5", "a.ma"},
+         "frames near 4503599627370496 cannot be told apart with a step (-b) of 0.5"},
+        {{"-s", "0", "-e", "1e30", "-b", "1e-30", "a.ma"}, "too many frames: at most 100000"},
+        {{"-s", "-1e308", "-e", "1e308", "a.ma"},
+         "frame -1e+308 is outside the renderer's time range (-3.40282347e+38 to "
+         "3.40282347e+38)"},
+        {{"-s", "1", "-e", "1e39", "a.ma"},
+         "frame 1e+39 is outside the renderer's time range (-3.40282347e+38 to 3.40282347e+38)"},
+        {{"-s", "1", "-mb", "on", "-mbDuration", "1.7e308", "-mbCenter", "1.7e308", "a.ma"},
+         "the motion blur samples of frame 1 fall outside the renderer's time range "
+         "(-3.40282347e+38 to 3.40282347e+38); see -mbDuration and -mbCenter"},
+        {{"-s", "1", "-e", "3", "-mb", "on", "-mbCenter", "-3.41e38", "a.ma"},
+         "the motion blur samples of frame 1 fall outside the renderer's time range "
+         "(-3.40282347e+38 to 3.40282347e+38); see -mbDuration and -mbCenter"},
     };
     for (const auto& c : cases) {
         const xrvell::CommandLine line = parse(c.args);
         EXPECT_EQ(line.outcome(), Outcome::Error) << c.error;
         EXPECT_EQ(line.error(), c.error);
     }
+}
+
+// The frames a range gives, as the renderer is asked for them: decimal steps without the drift
+// of repeated addition, and the end reached exactly when a step lands on it.
+TEST(CommandLineTest, FramesAreTheStartPlusWholeSteps) {
+    const struct {
+        double start, end, step;
+        std::vector<double> frames;
+    } cases[] = {
+        {1, 3, 1, {1, 2, 3}},
+        {1, 2.5, 1, {1, 2}},
+        {-2, 2, 1.5, {-2, -0.5, 1}},
+        {0, 1, 0.1, {0, 0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9, 1}},
+        {0, 0.3, 0.1, {0, 0.1, 0.2, 0.3}},
+        {1, 1, 1e-10, {1}},
+        {1, 1.9999999999, 1, {1, 1.9999999999}},
+        {1, 1.99999, 1, {1}},
+        {1.0000000000001, 3, 1, {1.0000000000001, 2.0000000000001, 3}},
+        {5, 4, 1, {}},
+        {1, 2, 0, {}},
+        {1e16, 1e16, 1, {}},
+    };
+    for (const auto& c : cases) {
+        vrayrender::RenderSettings settings;
+        settings.startFrame = c.start;
+        settings.endFrame = c.end;
+        settings.byFrame = c.step;
+        EXPECT_EQ(vrayrender::frames(settings), c.frames)
+            << c.start << " to " << c.end << " by " << c.step;
+    }
+}
+
+TEST(CommandLineTest, TheLongestRangeEndsExactlyOnItsLastFrame) {
+    vrayrender::RenderSettings settings;
+    settings.startFrame = 0;
+    settings.endFrame = 9999.9;
+    settings.byFrame = 0.1;
+    const std::vector<double> all = vrayrender::frames(settings);
+    ASSERT_EQ(all.size(), vrayrender::kMaxFrames);
+    EXPECT_EQ(all[3], 0.3);
+    EXPECT_EQ(all.back(), 9999.9);
+    settings.endFrame = 10000;
+    EXPECT_TRUE(vrayrender::frames(settings).empty());
+    EXPECT_EQ(xrvell::CommandLine::rangeProblem(settings), "too many frames: at most 100000");
 }
 
 TEST(CommandLineTest, HelpWinsOverEverythingElse) {
@@ -87,6 +153,10 @@ TEST(CommandLineTest, DefaultsFollowTheSceneAndTheFirstFrame) {
     EXPECT_EQ(o.verbosity, 1);
     const xrvell::RenderOptions single = parse({"-s", "7", "a.ma", "-mb", "off"}).options();
     EXPECT_EQ(single.settings.endFrame, 7.0);
+    // Too small for a double: zero, as MEL reads it.
+    const xrvell::CommandLine tiny = parse({"-s", "1e-400", "a.ma"});
+    ASSERT_EQ(tiny.outcome(), Outcome::Render) << tiny.error();
+    EXPECT_EQ(tiny.options().settings.startFrame, 0.0);
 }
 
 TEST(CommandLineTest, SearchPathsComeFromTheOptionOrTheEnvironmentThenTheBuild) {

@@ -2,12 +2,18 @@
 // reaches stderr, and that a failed job writes nothing.
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
+#include <algorithm>
+#include <csignal>
+#include <cctype>
+#include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "ToolRun.h"
@@ -27,13 +33,26 @@ void writeFile(const fs::path& path, const std::string& text) {
     std::ofstream(path, std::ios::binary) << text;
 }
 
+// Whether the text is the time taken as the summary writes it: "0.25 s\n".
+bool isSeconds(const std::string& text) {
+    const size_t dot = text.find('.');
+    if (dot == 0 || dot == std::string::npos || text.compare(dot + 3, std::string::npos, " s\n"))
+        return false;
+    for (size_t i = 0; i < dot + 3; ++i)
+        if (i != dot && !std::isdigit(static_cast<unsigned char>(text[i]))) return false;
+    return true;
+}
+
 // Everything before the summary line, and the summary line checked on its own.
 std::string withoutSummary(const std::string& err, const std::string& summary) {
     const size_t last = err.rfind("xrvell-render: ");
     EXPECT_NE(last, std::string::npos) << err;
     if (last == std::string::npos) return err;
-    const std::regex expected("xrvell-render: " + summary + ", [0-9]+\\.[0-9]{2} s\n");
-    EXPECT_TRUE(std::regex_match(err.substr(last), expected)) << err.substr(last);
+    const std::string line = err.substr(last);
+    const std::string expected = "xrvell-render: " + summary + ", ";
+    EXPECT_TRUE(line.compare(0, expected.size(), expected) == 0 &&
+                isSeconds(line.substr(expected.size())))
+        << line;
     return err.substr(0, last);
 }
 
@@ -112,11 +131,27 @@ struct BadScene {
     std::string error;
 };
 
+const char* const kNothingRendered = "0 frames, 0 nodes, 0 plugin instances, 0 warnings, 1 error";
+
 TEST_F(RenderCliTest, BadSceneExitsWithItsErrorAndWritesNothing) {
     const std::string prelude =
         "//Maya ASCII 2022 scene\nrequires \"xrVellMaya\" \"1.0\";\n"
         "createNode transform -n \"fur\";\ncreateNode xrVellMaya -n \"furShape\" -p \"fur\";\n";
     const BadScene cases[] = {
+        {"name", prelude + "createNode xrVellMayaVRay -n \"fur Mane} {x=1;\" -p \"fur\";\n",
+         "bad.ma:5: error: createNode: \"fur Mane} {x=1;\" is not a valid node name (letters, "
+         "digits and '_', not starting with a digit; ':' between namespaces)"},
+        {"matrix",
+         prelude + "setAttr \"fur.t\" -type \"matrix\" 1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1;\n",
+         "bad.ma:5: error: \"fur.t\" expects 3 numbers (-type \"double3\"), not -type \"matrix\""},
+        {"nul", prelude + "setAttr \".rd\" \"2" + '\0' + "\";\n",
+         "bad.ma:5: error: \"furShape.rd\" expects a number, not \"2\\000\""},
+        {"bom",
+         "\xEF\xBB\xBF"
+         "createNode furball -n \"x\";\n",
+         "bad.ma:1: error: unknown node type \"furball\""},
+        {"time", prelude + "select -ne :time1;\n\tsetAttr \".o\" 1e16;\n",
+         "xrvell-render: frames near 1e+16 cannot be told apart with a step (-b) of 1"},
         {"syntax", prelude + "\tsetAttr \".isp\" -type \"string\" \"/open;\n",
          "bad.ma:5: error: unterminated string"},
         {"type", prelude + "createNode xrVellFur -n \"x\";\n",
@@ -140,7 +175,7 @@ TEST_F(RenderCliTest, BadSceneExitsWithItsErrorAndWritesNothing) {
                                       {"MAYA_PLUG_IN_PATH=" + directory.string()});
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(result.out, "");
-        EXPECT_EQ(result.err,
+        EXPECT_EQ(withoutSummary(result.err, kNothingRendered),
                   bad.error + "\nxrvell-render: stopped at the first error; nothing written\n");
         EXPECT_EQ(contentsOf(directory / "old.vrscene"), "an earlier render\n");
         EXPECT_EQ(files(), (std::vector<std::string>{"bad.ma", "old.vrscene"}));
@@ -161,17 +196,130 @@ TEST_F(RenderCliTest, PluginErrorsDuringTheRenderShowAsMayaPrintsThem) {
     EXPECT_EQ(result.out.find("xrVellVRay furBodyVRayShape {"), std::string::npos);
 }
 
-TEST_F(RenderCliTest, ReportsFilesItCannotReadOrWrite) {
-    ToolResult result = run({"missing.ma"}, directory.string());
+TEST_F(RenderCliTest, ReportsFilesItCannotReadOrWriteAndWritesNothing) {
+    writeFile(directory / "scene.ma", "createNode transform -n \"t\";\n");
+    fs::create_directories(directory / "adir.ma");
+    ASSERT_EQ(mkfifo((directory / "fifo.ma").c_str(), 0600), 0);
+    fs::create_symlink("scene.ma", directory / "link.ma");
+    const std::vector<std::string> before = files();
+    const struct {
+        std::vector<std::string> args;
+        const char* error;
+    } cases[] = {
+        {{"missing.ma"}, "cannot read \"missing.ma\": No such file or directory"},
+        {{"adir.ma"}, "cannot read \"adir.ma\": Is a directory"},
+        {{"fifo.ma"}, "cannot read \"fifo.ma\": not a regular file"},
+        {{"-o", "scene.ma", "scene.ma"},
+         "cannot write \"scene.ma\": it is the scene file \"scene.ma\""},
+        {{"-o", "link.ma", "./scene.ma"},
+         "cannot write \"link.ma\": it is the scene file \"./scene.ma\""},
+        {{"-o", "adir.ma", "scene.ma"}, "cannot write \"adir.ma\": Is a directory"},
+        {{"-o", "no/such.vrscene", "scene.ma"},
+         "cannot write \"no/such.vrscene\": No such file or directory"},
+        {{"-o", "new\nline/x.vrscene", "scene.ma"},
+         "cannot write \"new\\nline/x.vrscene\": No such file or directory"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.error);
+        const ToolResult result = run(c.args, directory.string());
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(withoutSummary(result.err, kNothingRendered),
+                  std::string("xrvell-render: ") + c.error + "\n");
+        EXPECT_EQ(files(), before);
+        EXPECT_EQ(contentsOf(directory / "scene.ma"), "createNode transform -n \"t\";\n");
+    }
+}
+
+TEST_F(RenderCliTest, AFifoTargetIsWrittenInPlaceAndALinkedFileIsReplacedWhole) {
+    const std::string golden = contentsOf(GOLDEN_DIR "/demo.vrscene");
+    const std::vector<std::string> demo = {"-s", "1", "-e", "3", "-mb", "on", "-v", "0"};
+    const fs::path fifo = directory / "out.fifo";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    std::string received;
+    std::thread reader([&] {
+        std::ifstream in(fifo, std::ios::binary);
+        received.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    });
+    std::vector<std::string> args = demo;
+    args.insert(args.end(), {"-o", fifo.string(), "examples/demo.ma"});
+    ToolResult result = run(args);
+    reader.join();
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(received, golden);
+    EXPECT_TRUE(fs::is_fifo(fifo));
+
+    fs::create_directories(directory / "shots");
+    writeFile(directory / "shots/demo.vrscene", "an earlier render\n");
+    fs::create_symlink("shots/demo.vrscene", directory / "latest.vrscene");
+    args = demo;
+    args.insert(args.end(), {"-o", (directory / "latest.vrscene").string(), "examples/demo.ma"});
+    result = run(args);
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_TRUE(fs::is_symlink(directory / "latest.vrscene"));
+    EXPECT_EQ(contentsOf(directory / "shots/demo.vrscene"), golden);
+    EXPECT_EQ(files(), (std::vector<std::string>{"latest.vrscene", "out.fifo", "shots"}));
+    EXPECT_EQ(fs::directory_iterator(directory / "shots")->path().filename(), "demo.vrscene");
+}
+
+// A consumer that stops reading ends the render instead of leaving it running to no purpose.
+TEST_F(RenderCliTest, AWriteErrorStopsTheRender) {
+    const fs::path fifo = directory / "out.fifo";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    void (*previous)(int) = std::signal(SIGPIPE, SIG_IGN);  // the tool inherits it
+    std::thread reader([&] { std::ifstream(fifo, std::ios::binary).get(); });
+    const ToolResult result = run({"-s", "1", "-e", "2000", "-mb", "on", "-mbSamples", "100", "-o",
+                                   fifo.string(), "examples/demo.ma"});
+    reader.join();
+    std::signal(SIGPIPE, previous);
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.err, "xrvell-render: cannot read \"missing.ma\": No such file or directory\n");
-    result =
-        run({"-o", (directory / "no" / "such.vrscene").string(), "-v", "0", "examples/demo.ma"});
+    const std::string failure = "xrvell-render: cannot write \"" + fifo.string() +
+                                "\": Broken pipe; the output is incomplete\n";
+    const size_t summary = result.err.rfind("xrvell-render: ");
+    ASSERT_NE(summary, std::string::npos) << result.err;
+    const int frames = std::atoi(result.err.c_str() + summary + strlen("xrvell-render: "));
+    EXPECT_LT(frames, 100) << "the render went on after the write failed";
+    const std::string before =
+        withoutSummary(result.err, std::to_string(frames) +
+                                       " frames, 2 nodes, 2 plugin instances, 5 warnings, 1 error");
+    ASSERT_GE(before.size(), failure.size()) << result.err;
+    EXPECT_EQ(before.substr(before.size() - failure.size()), failure);
+}
+
+TEST_F(RenderCliTest, DecimalStepsGiveTheFramesAsWritten) {
+    const ToolResult result =
+        run({"-s", "0", "-e", "0.3", "-b", "0.1", "-o", "-", "-v", "0", "examples/demo.ma"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    std::string frames;
+    std::istringstream lines(result.out);
+    for (std::string line; std::getline(lines, line);)
+        if (line.rfind("// Frame ", 0) == 0) frames += line.substr(9, line.find(':') - 9) + " ";
+    EXPECT_EQ(frames, "0 0.1 0.2 0.3 ");
+}
+
+#if defined(__SANITIZE_ADDRESS__)
+#define XRVELL_UNDER_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define XRVELL_UNDER_ASAN 1
+#endif
+#endif
+
+TEST_F(RenderCliTest, RunningOutOfMemoryIsAnErrorThatWritesNothing) {
+#ifdef XRVELL_UNDER_ASAN
+    GTEST_SKIP() << "the address sanitizer needs more address space than the limit allows";
+#endif
+    // A scene larger than the memory the tool may use (a sparse file: no disk space).
+    std::ofstream(directory / "huge.ma").close();
+    fs::resize_file(directory / "huge.ma", 2ull << 30);
+    const ToolResult result =
+        ToolRun::run({"/bin/sh", "-c", "ulimit -v 500000 && exec \"$0\" \"$@\"", TOOL_PATH, "-o",
+                      "huge.vrscene", "huge.ma"},
+                     directory.string());
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.err, "xrvell-render: cannot write \"" +
-                              (directory / "no" / "such.vrscene").string() +
-                              "\": No such file or directory\n");
-    EXPECT_TRUE(files().empty());
+    EXPECT_EQ(withoutSummary(result.err, kNothingRendered),
+              "xrvell-render: out of memory; nothing written\n");
+    EXPECT_EQ(files(), std::vector<std::string>{"huge.ma"});
 }
 
 TEST_F(RenderCliTest, UsageErrorsExitWithTwoAndHelpWithZero) {

@@ -136,6 +136,63 @@ std::vector<BadInput> badInputs() {
         {"NoPluginName", "requires;", "scene.ma:1: error: requires: no plug-in named"},
         {"TimeUnit", "currentUnit -l centimeter -t 23.976fps;",
          "scene.ma:1: error: currentUnit: unsupported time unit \"23.976fps\""},
+        // Names that would break the .vrscene they are written into, or that Maya refuses.
+        {"NameWithBraces", p + "createNode xrVellMayaVRay -n \"fur Mane} {x=1;\" -p \"fur\";",
+         "scene.ma:5: error: createNode: \"fur Mane} {x=1;\" is not a valid node name (letters, "
+         "digits and '_', not starting with a digit; ':' between namespaces)"},
+        {"NameWithComment", p + "createNode xrVellMayaVRay -n \"fur//x\" -p \"fur\";",
+         "scene.ma:5: error: createNode: \"fur//x\" is not a valid node name (letters, digits and "
+         "'_', not starting with a digit; ':' between namespaces)"},
+        {"NameWithNewline", p + "createNode transform -n \"a\\nb\";",
+         "scene.ma:5: error: createNode: \"a\\nb\" is not a valid node name (letters, digits and "
+         "'_', not starting with a digit; ':' between namespaces)"},
+        {"NameStartsWithDigit", p + "createNode transform -n \"1fur\";",
+         "scene.ma:5: error: createNode: \"1fur\" is not a valid node name (letters, digits and "
+         "'_', not starting with a digit; ':' between namespaces)"},
+        {"EmptyNamespace", p + "createNode transform -n \"ns::fur\";",
+         "scene.ma:5: error: createNode: \"ns::fur\" is not a valid node name (letters, digits "
+         "and '_', not starting with a digit; ':' between namespaces)"},
+        {"NamespaceStartsWithDigit", p + "createNode transform -n \"2ns:fur\";",
+         "scene.ma:5: error: createNode: \"2ns:fur\" is not a valid node name (letters, digits "
+         "and '_', not starting with a digit; ':' between namespaces)"},
+        // Values for the compounds the host keeps as their children.
+        {"MatrixOnTranslate",
+         p + "setAttr \"fur.t\" -type \"matrix\" 1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1;",
+         "scene.ma:5: error: \"fur.t\" expects 3 numbers (-type \"double3\"), not -type "
+         "\"matrix\""},
+        {"Double2OnTranslate", p + "setAttr \"fur.t\" -type \"double2\" 7 8;",
+         "scene.ma:5: error: \"fur.t\" expects 3 numbers (-type \"double3\"), not -type "
+         "\"double2\""},
+        {"StringOnTranslate", p + "setAttr \"fur.translate\" -type \"string\" \"1 2 3\";",
+         "scene.ma:5: error: \"fur.translate\" expects 3 numbers (-type \"double3\"), not -type "
+         "\"string\""},
+        {"OneNumberOnTranslate", p + "setAttr \"fur.t\" 7;",
+         "scene.ma:5: error: \"fur.t\" expects 3 numbers (-type \"double3\"), not \"7\""},
+        {"FourNumbersOnRotate", p + "setAttr \"fur.r\" 1 2 3 4;",
+         "scene.ma:5: error: \"fur.r\" expects 3 numbers (-type \"double3\"), not 4 values"},
+        // Numbers beyond what the attribute's type holds say so.
+        {"FloatOverflow", p + "setAttr \".rd\" 1e400;",
+         "scene.ma:5: error: \"furShape.rd\" expects a number within float range, not \"1e400\""},
+        {"DoubleOverflow", p + "setAttr \"fur.tx\" -1e400;",
+         "scene.ma:5: error: \"fur.tx\" expects a number within double range, not \"-1e400\""},
+        {"IntegerOverflow", p + "setAttr \".vb\" 99999999999999999999;",
+         "scene.ma:5: error: \"furShape.vb\" expects an integer from -32768 to 32767, not "
+         "\"99999999999999999999\""},
+        {"TimeOverflow", p + "setAttr \":time1.o\" 1e400;",
+         "scene.ma:5: error: \"time1.o\" expects a time within double range, not \"1e400\""},
+        // Bytes a message cannot show as they are.
+        {"NulByte", p + "setAttr \".rd\" x" + '\0' + "y;",
+         "scene.ma:5: error: \"furShape.rd\" expects a number, not \"x\\000y\""},
+        {"EscapeByte", p + "setAttr \".rd\" \x1b[31m;",
+         "scene.ma:5: error: \"furShape.rd\" expects a number, not \"\\033[31m\""},
+        // A byte order mark does not swallow the first command.
+        {"ByteOrderMark", "\xEF\xBB\xBFsetAttr \".rd\" 1;",
+         "scene.ma:1: error: setAttr \".rd\": no node is selected"},
+        // Inherited attributes that a plug-in shape does not have as DAG node are still errors.
+        {"NotInheritedByShapes", p + "setAttr \".tx\" 1;",
+         "scene.ma:5: error: node \"furShape\" has no attribute \"tx\""},
+        {"UnknownIndexed", p + "setAttr \".bogus[0].x\" 1;",
+         "scene.ma:5: error: node \"furShape\" has no attribute \"bogus[0].x\""},
     };
 }
 
@@ -212,6 +269,65 @@ TEST_F(SceneReaderTest, SharedNodeThatExistsIsSelectedNotMadeAgain) {
         read(kPrelude + "createNode xrVellMaya -s -n \"furShape\";\n\tsetAttr \".rd\" 3;\n"));
     EXPECT_EQ(created, 2u);
     EXPECT_EQ(plug("furShape", "renderDensity").asFloat(), 3.0f);
+}
+
+// Maya writes the DAG node and shape attributes every shape inherits (hidden shapes, display
+// overrides, render flags); the host does not model them on plug-in shapes either.
+TEST_F(SceneReaderTest, InheritedDagAttributesOfPlugInShapesAreSkippedWithAWarning) {
+    ASSERT_TRUE(read(kPrelude +
+                     "\tsetAttr \".v\" no;\n"                                                 // 5
+                     "\tsetAttr \".tmp\" yes;\n"                                              // 6
+                     "\tsetAttr \".io\" yes;\n"                                               // 7
+                     "\tsetAttr \".lod\" yes;\n"                                              // 8
+                     "\tsetAttr -s 2 \".iog[0].og\";\n"                                       // 9
+                     "\tsetAttr \".iog[0].og[1].gcl\" -type \"componentList\" 1 \"f[0]\";\n"  // 10
+                     "\tsetAttr \".csh\" no;\n"                                               // 11
+                     "\tsetAttr \".visibility\" yes;\n"                                       // 12
+                     "\tsetAttr \".ihi\" 0;\n"                                                // 13
+                     "createNode xrVellMayaVRay -n \"bridge\" -p \"fur\";\n"                  // 14
+                     "\tsetAttr \".v\" no;\n"                                                 // 15
+                     "\tsetAttr \".ovdt\" 2;\n"))                                             // 16
+        << diagnostics.lines()[0];
+    const std::vector<std::string> expected = {
+        "scene.ma:5: warning: attribute \"v\" is not modelled on \"xrVellMaya\" nodes; skipped",
+        "scene.ma:6: warning: attribute \"tmp\" is not modelled on \"xrVellMaya\" nodes; skipped",
+        "scene.ma:7: warning: attribute \"io\" is not modelled on \"xrVellMaya\" nodes; skipped",
+        "scene.ma:8: warning: attribute \"lod\" is not modelled on \"xrVellMaya\" nodes; skipped",
+        "scene.ma:9: warning: attribute \"iog\" is not modelled on \"xrVellMaya\" nodes; skipped",
+        "scene.ma:11: warning: attribute \"csh\" is not modelled on \"xrVellMaya\" nodes; skipped",
+        "scene.ma:12: warning: attribute \"visibility\" is not modelled on \"xrVellMaya\" nodes; "
+        "skipped",
+        "scene.ma:13: warning: attribute \"ihi\" is not modelled on \"xrVellMaya\" nodes; skipped",
+        "scene.ma:15: warning: attribute \"v\" is not modelled on \"xrVellMayaVRay\" nodes; "
+        "skipped",
+        "scene.ma:16: warning: attribute \"ovdt\" is not modelled on \"xrVellMayaVRay\" nodes; "
+        "skipped",
+    };
+    EXPECT_EQ(diagnostics.lines(), expected);
+    EXPECT_EQ(diagnostics.errors(), 0);
+}
+
+TEST_F(SceneReaderTest, CompoundsTakeTheirNumbersWithOrWithoutAType) {
+    ASSERT_TRUE(read(kPrelude + "setAttr \"fur.t\" 1 2 3;\n"
+                                "setAttr \"fur.s\" -type \"float3\" 2 0.5 4;\n"
+                                "setAttr -k on \"fur.r\";\n"
+                                "select -ne furShape;\n"
+                                "\tsetAttr \".rn\" -type \"double3\" -3 -2 -1e-400;\n"))
+        << diagnostics.lines()[0];
+    EXPECT_EQ(plug("fur", "translateZ").asDouble(), 3.0);
+    EXPECT_EQ(plug("fur", "scaleY").asDouble(), 0.5);
+    EXPECT_EQ(plug("furShape", "roiMinX").asDouble(), -3.0);
+    EXPECT_EQ(plug("furShape", "roiMinZ").asDouble(), 0.0) << "too small for a double: zero";
+    EXPECT_TRUE(diagnostics.lines().empty());
+}
+
+TEST_F(SceneReaderTest, APlugInRequiredUnderTwoNamesLoadsOnce) {
+    ASSERT_TRUE(
+        read("requires \"xrVellMaya.so\" \"1.0\";\nrequires \"xrVellMaya\" \"1.0\";\n"
+             "requires \"xrVellMaya.so\" \"1.0\";\n"))
+        << diagnostics.lines()[0];
+    EXPECT_EQ(plugins.loadedFiles(), std::vector<std::string>{PLUGIN_DIR "/xrVellMaya.so"});
+    EXPECT_EQ(mayahost::loadedPlugins().size(), 1u);
 }
 
 // What a real Maya file holds beyond the fur: each kind gives one warning and is skipped.

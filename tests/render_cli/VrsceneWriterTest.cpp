@@ -76,9 +76,46 @@ TEST(VrsceneValueTest, WritesEachKindSoItReadsBack) {
         {list({1.25f, 0.2f}), "ListFloat(1.25,0.200000003)"},
         {text(""), "\"\""},
         {text("a\"b\\c;d"), "\"a\\\"b\\\\c;d\""},
+        {text("a\nb\tc\rd"), "\"a\\nb\\tc\\rd\""},
+        {text("\x01"
+              "7\x1b[0m\x7f"),
+         "\"\\0017\\033[0m\\177\""},
+        {text("f\xC3\xBCr"), "\"f\xC3\xBCr\""},
         {value(Kind::None), ""},
     };
     for (const auto& c : cases) EXPECT_EQ(written(c.value), c.expected);
+}
+
+// Reads a written string back the way a C-style parser does: "\n", "\t", "\r", "\"", "\\"
+// and three octal digits.
+std::string readBack(const std::string& written) {
+    std::string text;
+    for (size_t i = 1; i + 1 < written.size(); ++i) {
+        if (written[i] != '\\') {
+            text += written[i];
+            continue;
+        }
+        const char next = written[++i];
+        if (next >= '0' && next <= '7') {
+            text += static_cast<char>((next - '0') * 64 + (written[i + 1] - '0') * 8 +
+                                      (written[i + 2] - '0'));
+            i += 2;
+        } else {
+            text += next == 'n' ? '\n' : next == 't' ? '\t' : next == 'r' ? '\r' : next;
+        }
+    }
+    return text;
+}
+
+// Every byte but NUL (which a Maya string cannot hold), next to a digit that an escape must
+// not swallow, stays on one line and reads back as it was.
+TEST(VrsceneValueTest, StringsKeepToOneLineAndReadBack) {
+    for (int byte = 1; byte < 256; ++byte) {
+        const std::string original = std::string("a") + static_cast<char>(byte) + "7";
+        const std::string out = written(text(original));
+        EXPECT_EQ(out.find_first_of("\n\r"), std::string::npos) << byte;
+        EXPECT_EQ(readBack(out), original) << byte << ": " << out;
+    }
 }
 
 vrayrender::RecordedParameter parameter(const std::string& name,
@@ -130,6 +167,13 @@ TEST(VrsceneWriterTest, WritesEachFrameWithItsInstancesInOrder) {
         "\n"
         "// Frame 2: geometry samples at 1.75, 2.25\n";
     EXPECT_EQ(xrvell::VrsceneWriter("shots/a b.ma", settings).write(twoFrames()), expected);
+}
+
+TEST(VrsceneWriterTest, ANewlineInTheScenePathDoesNotEndTheHeaderComment) {
+    EXPECT_EQ(xrvell::VrsceneWriter("shots/a\nxrVellVRay x {\r}.ma", {}).write({}),
+              "// V-Ray scene: what the xrVellVRay plugin received, written by xrvell-render\n"
+              "// Scene: shots/a\\nxrVellVRay x {\\r}.ma\n"
+              "// Frames 1 to 1, step 1; motion blur off\n");
 }
 
 TEST(VrsceneWriterTest, HeaderSaysWhenBlurIsOff) {

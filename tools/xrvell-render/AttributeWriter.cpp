@@ -131,17 +131,17 @@ std::string AttributeWriter::writeBoolean(const std::string& word) {
 }
 
 std::string AttributeWriter::writeInteger(const std::string& word) {
+    const IntegerRange range = rangeOf(info.numericType);
+    const std::string inRange =
+        "an integer from " + std::to_string(range.low) + " to " + std::to_string(range.high);
     long long number = 0;
     bool flag = false;
     if (MaValueParser::parseBoolWord(word, &flag))
         number = flag ? 1 : 0;
     else if (!MaValueParser::parseInteger(word, &number))
-        return mismatch("an integer", {"", {{word, false}}});
-    const IntegerRange range = rangeOf(info.numericType);
-    if (number < range.low || number > range.high)
-        return mismatch(
-            "an integer from " + std::to_string(range.low) + " to " + std::to_string(range.high),
-            {"", {{word, false}}});
+        return mismatch(MaValueParser::integerOutOfRange(word) ? inRange : "an integer",
+                        {"", {{word, false}}});
+    if (number < range.low || number > range.high) return mismatch(inRange, {"", {{word, false}}});
     if (info.numericType == MFnNumericData::kShort)
         return stored(plug.setShort(static_cast<short>(number)));
     if (info.numericType == MFnNumericData::kInt64)
@@ -150,15 +150,16 @@ std::string AttributeWriter::writeInteger(const std::string& word) {
 }
 
 std::string AttributeWriter::writeNumber(const std::string& word) {
+    const bool isFloat = info.numericType == MFnNumericData::kFloat;
+    const char* inRange = isFloat ? "a number within float range" : "a number within double range";
     double number = 0.0;
-    if (!numberOrBool(word, &number)) return mismatch("a number", {"", {{word, false}}});
-    if (info.numericType == MFnNumericData::kFloat) {
-        if (number > std::numeric_limits<float>::max() ||
-            number < -std::numeric_limits<float>::max())
-            return mismatch("a number within float range", {"", {{word, false}}});
-        return stored(plug.setFloat(static_cast<float>(number)));
-    }
-    return stored(plug.setDouble(number));
+    if (!numberOrBool(word, &number))
+        return mismatch(MaValueParser::numberOutOfRange(word) ? inRange : "a number",
+                        {"", {{word, false}}});
+    if (!isFloat) return stored(plug.setDouble(number));
+    if (number > std::numeric_limits<float>::max() || number < -std::numeric_limits<float>::max())
+        return mismatch(inRange, {"", {{word, false}}});
+    return stored(plug.setFloat(static_cast<float>(number)));
 }
 
 std::string AttributeWriter::writeString(const SetAttrValue& value) {
@@ -173,9 +174,14 @@ std::string AttributeWriter::writeString(const SetAttrValue& value) {
 std::string AttributeWriter::writeUnit(const SetAttrValue& value) {
     const char* expected = info.unitType == MFnUnitAttribute::kTime ? "a time" : "a number";
     double number = 0.0;
-    if (!value.type.empty() || value.words.size() != 1 || value.words[0].quoted ||
-        !MaValueParser::parseNumber(value.words[0].text, &number))
+    if (!value.type.empty() || value.words.size() != 1 || value.words[0].quoted)
         return mismatch(expected, value);
+    const std::string& word = value.words[0].text;
+    if (!MaValueParser::parseNumber(word, &number))
+        return mismatch(MaValueParser::numberOutOfRange(word)
+                            ? std::string(expected) + " within double range"
+                            : std::string(expected),
+                        value);
     if (info.unitType == MFnUnitAttribute::kTime)
         return stored(plug.setMTime(MTime(number, MTime::uiUnit())));
     return stored(plug.setDouble(number));

@@ -4,11 +4,11 @@
 
 #include "MaValueParser.h"
 #include "PluginPath.h"
+#include "VrsceneValue.h"
 
 namespace xrvell {
 namespace {
 
-const double kMaxFrames = 100000;
 const int kMaxGeometrySamples = 1000;
 
 const char* const kValueOptions[] = {
@@ -30,6 +30,21 @@ std::string defaultOutput(const std::string& scene) {
     const size_t dot = name.rfind('.');
     if (dot != std::string::npos && dot > 0) name.erase(dot);
     return name + ".vrscene";
+}
+
+std::string numberText(double value) {
+    std::string text;
+    VrsceneValue::appendDouble(value, text);
+    return text;
+}
+
+// The renderer's times are floats: the range as a float reads.
+std::string timeRange() {
+    std::string text = "(";
+    VrsceneValue::appendFloat(static_cast<float>(-vrayrender::kMaxSampleTime), text);
+    text += " to ";
+    VrsceneValue::appendFloat(static_cast<float>(vrayrender::kMaxSampleTime), text);
+    return text + ")";
 }
 
 }  // namespace
@@ -118,7 +133,9 @@ bool CommandLine::parse(const std::vector<std::string>& args) {
 
 bool CommandLine::number(const std::string& name, const std::string& value, double* target) {
     if (MaValueParser::parseNumber(value, target)) return true;
-    return fail("option " + name + " expects a number, not \"" + value + "\"");
+    const char* expected =
+        MaValueParser::numberOutOfRange(value) ? "a number within double range" : "a number";
+    return fail("option " + name + " expects " + expected + ", not \"" + value + "\"");
 }
 
 bool CommandLine::option(const std::string& name, const std::string& value) {
@@ -131,7 +148,7 @@ bool CommandLine::option(const std::string& name, const std::string& value) {
     if (name == "-mbCenter") return number(name, value, &blur.intervalCenter);
     if (name == "-o") {
         parsed.output = value;
-        return true;
+        return !value.empty() || fail("option -o needs a file name (\"-\" for standard output)");
     }
     if (name == "-pluginPath" || name == "-vrayPluginPath") return true;  // read beforehand
     long long whole = 0;
@@ -156,10 +173,28 @@ bool CommandLine::option(const std::string& name, const std::string& value) {
 }
 
 std::string CommandLine::rangeProblem(const vrayrender::RenderSettings& settings) {
-    if (settings.endFrame < settings.startFrame)
-        return "the last frame (-e) comes before the first (-s)";
-    if (std::floor((settings.endFrame - settings.startFrame) / settings.byFrame) >= kMaxFrames)
-        return "too many frames: at most " + std::to_string(static_cast<int>(kMaxFrames));
+    using Kind = vrayrender::RangeProblem::Kind;
+    const vrayrender::RangeProblem problem = vrayrender::rangeProblem(settings);
+    const std::string frame = numberText(problem.frame);
+    switch (problem.kind) {
+        case Kind::None:
+            return "";
+        case Kind::NoStep:
+            return "the frame step (-b) must be greater than 0";
+        case Kind::Backwards:
+            return "the last frame (-e) comes before the first (-s)";
+        case Kind::TooManyFrames:
+            return "too many frames: at most " + std::to_string(vrayrender::kMaxFrames);
+        case Kind::FramesTooClose:
+            return "frames near " + frame + " cannot be told apart with a step (-b) of " +
+                   numberText(settings.byFrame);
+        case Kind::FrameOutOfRange:
+            return "frame " + frame + " is outside the renderer's time range " + timeRange();
+        case Kind::SamplesOutOfRange:
+            return "the motion blur samples of frame " + frame +
+                   " fall outside the renderer's time range " + timeRange() +
+                   "; see -mbDuration and -mbCenter";
+    }
     return "";
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "VisibleText.h"
+
 namespace xrvell {
 
 Diagnostics::Diagnostics(std::string fileName, std::FILE* output, bool quietWarnings)
@@ -17,9 +19,15 @@ void Diagnostics::warning(int line, const std::string& text) {
     report(line, "warning", text, !quiet);
 }
 
+// Scene text quoted in a message may hold any byte: each message stays one visible line.
 void Diagnostics::report(int line, const char* kind, const std::string& text, bool show) {
-    std::string formatted = file + ":" + std::to_string(line) + ": " + kind + ": " + text;
-    if (stream && show) std::fprintf(stream, "%s\n", formatted.c_str());
+    std::string formatted =
+        VisibleText::of(file + ":" + std::to_string(line) + ": " + kind + ": " + text);
+    if (stream && show) {
+        formatted += '\n';
+        std::fwrite(formatted.data(), 1, formatted.size(), stream);
+        formatted.pop_back();
+    }
     reported.push_back(std::move(formatted));
 }
 

@@ -6,7 +6,8 @@
 namespace xrvell {
 
 // Problems found in a scene file, reported as "FILE:LINE: error: text" (or "warning:") on a
-// stream as they are found and kept for whoever asks afterwards.
+// stream as they are found and kept for whoever asks afterwards. Control characters in a
+// report are shown as escapes (see VisibleText).
 class Diagnostics {
 public:
     // A null stream only keeps the lines; quiet drops warnings from the stream, not the count.

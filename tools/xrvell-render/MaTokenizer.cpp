@@ -20,9 +20,14 @@ char unescaped(char c) {
     }
 }
 
+// Editors on some systems start a UTF-8 file with a byte order mark.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 }  // namespace
 
-MaTokenizer::MaTokenizer(std::string_view input) : text(input) {}
+MaTokenizer::MaTokenizer(std::string_view input) : text(input) {
+    if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) position = kByteOrderMark.size();
+}
 
 void MaTokenizer::advance() {
     if (text[position] == '\n') ++line;

@@ -3,6 +3,7 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 namespace xrvell {
 namespace {
@@ -50,7 +51,25 @@ bool MaValueParser::parseNumber(const std::string& text, double* value) {
     if (!isDecimal(text)) return false;
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(withoutPlus(text), end, *value);
-    return result.ec == std::errc() && result.ptr == end && std::isfinite(*value);
+    if (result.ec == std::errc()) return result.ptr == end && std::isfinite(*value);
+    if (result.ec != std::errc::result_out_of_range) return false;
+    // Too large, or too small: strtod tells them apart and rounds the small ones.
+    const double nearest = std::strtod(text.c_str(), nullptr);
+    if (!std::isfinite(nearest)) return false;
+    *value = nearest;
+    return true;
+}
+
+bool MaValueParser::numberOutOfRange(const std::string& text) {
+    double number = 0.0;
+    return isDecimal(text) && !parseNumber(text, &number);
+}
+
+bool MaValueParser::integerOutOfRange(const std::string& text) {
+    const size_t start = skipSign(text, 0);
+    long long number = 0;
+    return start < text.size() && skipDigits(text, start) == text.size() &&
+           !parseInteger(text, &number);
 }
 
 bool MaValueParser::parseInteger(const std::string& text, long long* value) {

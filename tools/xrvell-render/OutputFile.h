@@ -1,21 +1,41 @@
 #pragma once
 #include <string>
+#include <string_view>
 
 namespace xrvell {
 
-// Writes a finished text whole or not at all: to standard output for "-", otherwise through a
-// temporary file beside the target that is renamed over it.
+// Where a .vrscene goes. A regular file (or a new one) is written whole or not at all: into a
+// temporary file made beside it (beside the real file, for a symbolic link) that replaces it
+// when the text is complete. Standard output ("-") and a target that exists but is not a
+// regular file (a device, a FIFO) are written in place, as the text comes.
 class OutputFile {
 public:
     explicit OutputFile(std::string path);
+    // Without a commit, the temporary file goes and the target stays as it was.
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
 
-    // False with the reason when the text could not be written; no partial file is left.
-    bool write(const std::string& text, std::string* error) const;
+    // Each step is false with the reason when it fails.
+    bool open(std::string* error);
+    bool write(std::string_view text, std::string* error);
+    bool commit(std::string* error);
+
+    // Whether text written so far is already visible at the target.
+    bool writesInPlace() const { return inPlace; }
 
 private:
-    bool writeStandardOutput(const std::string& text, std::string* error) const;
+    bool openInPlace(const std::string& target, std::string* error);
+    bool openTemporary(const std::string& target, unsigned int mode, std::string* error);
+    bool closeFile(std::string* error);
+    void abandon();
 
     std::string path;
+    std::string target;     // the path with symbolic links followed
+    std::string temporary;  // empty unless writing through a temporary file
+    int fd = -1;
+    bool inPlace = false;
+    bool committed = false;
 };
 
 }  // namespace xrvell

@@ -3,6 +3,8 @@
 #include <mayahost/Host.h>
 #include <unistd.h>
 
+#include <climits>
+#include <cstdlib>
 #include <sstream>
 #include <utility>
 
@@ -27,7 +29,6 @@ std::string PluginPath::searchedText() const {
 }
 
 std::string PluginPath::require(const std::string& name) {
-    if (loaded.count(name)) return "";
     // A scene names a plug-in, never a file elsewhere.
     if (name.empty() || name.find('/') != std::string::npos)
         return "requires: invalid plug-in name \"" + name + "\"";
@@ -36,13 +37,24 @@ std::string PluginPath::require(const std::string& name) {
     for (const std::string& directory : searched) {
         const std::string path = directory + "/" + file;
         if (access(path.c_str(), F_OK) != 0) continue;
+        // "xrVellMaya", "xrVellMaya.so" and a link to it all name one plug-in: loaded once.
+        const std::string identity = resolved(path);
+        if (loaded.count(identity)) return "";
         const mayahost::PluginLoad load = mayahost::loadPlugin(path);
         if (!load) return "plug-in \"" + name + "\" (" + path + ") failed to load: " + load.error;
-        loaded.insert(name);
+        loaded.insert(identity);
         files.push_back(path);
         return "";
     }
     return "required plug-in \"" + name + "\" not found; " + searchedText();
+}
+
+std::string PluginPath::resolved(const std::string& path) {
+    char* real = realpath(path.c_str(), nullptr);
+    if (!real) return path;
+    const std::string result = real;
+    std::free(real);
+    return result;
 }
 
 }  // namespace xrvell

@@ -3,12 +3,14 @@
 #include <maya/MTime.h>
 #include <mayahost/Host.h>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
-#include <fstream>
-#include <sstream>
+#include <exception>
+#include <new>
 
 #include "CommandLine.h"
 #include "Diagnostics.h"
@@ -17,11 +19,15 @@
 #include "ProgressLine.h"
 #include "RenderDriver.h"
 #include "SceneReader.h"
+#include "VisibleText.h"
 #include "VrsceneWriter.h"
 #include "vray/PluginRegistry.h"
 
 namespace xrvell {
 namespace {
+
+// Frames are gathered into pieces of about this size before they are written.
+const size_t kWriteChunk = 1 << 20;
 
 std::string counted(size_t count, const char* singular, const char* plural) {
     return std::to_string(count) + " " + (count == 1 ? singular : plural);
@@ -40,38 +46,86 @@ RenderJob::~RenderJob() { mayahost::reset(); }
 
 bool RenderJob::fail(const std::string& text) {
     ++errors;
-    std::fprintf(log, "xrvell-render: %s\n", text.c_str());
+    const std::string line = "xrvell-render: " + VisibleText::of(text) + "\n";
+    std::fwrite(line.data(), 1, line.size(), log);
     return false;
 }
 
 int RenderJob::run() {
+    int status = 1;
+    const char* const outcome[] = {"nothing written", "the output is incomplete"};
+    try {
+        status = runSteps();
+    } catch (const std::bad_alloc&) {
+        fail(std::string("out of memory; ") + outcome[outputStarted]);
+    } catch (const std::exception& error) {
+        fail(std::string("internal error: ") + error.what() + "; " + outcome[outputStarted]);
+    }
+    printSummary();
+    return status;
+}
+
+int RenderJob::runSteps() {
     std::string text;
-    if (!readScene(&text)) return 1;
+    if (!readScene(&text) || !outputIsNotTheScene()) return 1;
     if (!load(text) || !resolveFrames()) {
         std::fprintf(log, "xrvell-render: stopped at the first error; nothing written\n");
         return 1;
     }
-    const std::string scene = render();
-    if (!writeOutput(scene)) return 1;
-    printSummary();
-    return errors ? 1 : 0;
+    std::string().swap(text);  // the host holds the scene now
+    OutputFile output(options.output);
+    std::string reason;
+    const bool written = (output.open(&reason) || writeFailed(reason)) && render(output) &&
+                         (output.commit(&reason) || writeFailed(reason));
+    return written && errors == 0 ? 0 : 1;
 }
 
+// Only a regular file can be read whole: a directory reads as nothing, a FIFO or device as
+// whatever happens to come.
 bool RenderJob::readScene(std::string* text) {
-    std::ifstream file(options.scene, std::ios::binary);
-    std::ostringstream contents;
-    if (file) contents << file.rdbuf();
-    if (!file || file.bad())
-        return fail("cannot read \"" + options.scene + "\": " + std::strerror(errno));
-    *text = contents.str();
-    return true;
+    const std::string what = "cannot read \"" + options.scene + "\": ";
+    const int fd = ::open(options.scene.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) return fail(what + std::strerror(errno));
+    struct stat status;
+    int problem = fstat(fd, &status) != 0 ? errno : 0;
+    if (!problem && S_ISDIR(status.st_mode)) problem = EISDIR;
+    if (!problem && !S_ISREG(status.st_mode)) {
+        close(fd);
+        return fail(what + "not a regular file");
+    }
+    if (!problem) {
+        sceneDevice = status.st_dev;
+        sceneInode = status.st_ino;
+        text->reserve(static_cast<size_t>(status.st_size));
+        char buffer[1 << 16];
+        for (;;) {
+            const ssize_t got = ::read(fd, buffer, sizeof buffer);
+            if (got < 0 && errno == EINTR) continue;
+            if (got <= 0) {
+                problem = got < 0 ? errno : 0;
+                break;
+            }
+            text->append(buffer, static_cast<size_t>(got));
+        }
+    }
+    close(fd);
+    return !problem || fail(what + std::strerror(problem));
+}
+
+// Writing the output over the scene would lose the scene.
+bool RenderJob::outputIsNotTheScene() {
+    struct stat status;
+    if (options.output == "-" || stat(options.output.c_str(), &status) != 0) return true;
+    if (status.st_dev != sceneDevice || status.st_ino != sceneInode) return true;
+    return fail("cannot write \"" + options.output + "\": it is the scene file \"" + options.scene +
+                "\"");
 }
 
 bool RenderJob::load(const std::string& sceneText) {
     for (const std::string& problem : registry.loadDirectories(options.rendererPluginPath)) {
         ++warnings;
         if (options.verbosity >= 1)
-            std::fprintf(log, "xrvell-render: warning: %s\n", problem.c_str());
+            std::fprintf(log, "xrvell-render: warning: %s\n", VisibleText::of(problem).c_str());
     }
     Diagnostics diagnostics(options.scene, log, options.verbosity == 0);
     SceneReader reader(diagnostics,
@@ -85,28 +139,34 @@ bool RenderJob::load(const std::string& sceneText) {
 
 bool RenderJob::resolveFrames() {
     vrayrender::RenderSettings& settings = options.settings;
-    if (options.startGiven) return true;
-    settings.startFrame = mayahost::currentTime().as(MTime::uiUnit());
-    if (!options.endGiven) settings.endFrame = settings.startFrame;
+    if (!options.startGiven) {
+        settings.startFrame = mayahost::currentTime().as(MTime::uiUnit());
+        if (!options.endGiven) settings.endFrame = settings.startFrame;
+    }
     const std::string problem = CommandLine::rangeProblem(settings);
     return problem.empty() || fail(problem);
 }
 
-std::string RenderJob::render() {
+bool RenderJob::render(OutputFile& output) {
     const VrsceneWriter writer(options.scene, options.settings);
-    std::string scene;
-    writer.writeHeader(scene);
+    std::string pending, reason;
+    writer.writeHeader(pending);
+    bool writable = true;
+    const auto flush = [&] {
+        if (!writable || pending.empty()) return writable;
+        outputStarted = outputStarted || output.writesInPlace();
+        writable = output.write(pending, &reason);
+        pending.clear();
+        return writable;
+    };
     const size_t total = vrayrender::frames(options.settings).size();
     ProgressLine progress(log, options.verbosity >= 1 && isatty(fileno(log)));
     vrayrender::RenderSettings settings = options.settings;
     settings.frameDone = [&](vrayrender::RecordedFrame&& frame) {
-        const size_t before = scene.size();
-        writer.writeFrame(frame, scene);
-        // Frames come out about the same size: room for the rest at once, not by doubling.
-        if (framesDone == 0)
-            scene.reserve(scene.size() + (scene.size() - before) * total * 11 / 10);
+        writer.writeFrame(frame, pending);
         frameDone(frame);
         progress.update(framesDone, total);
+        return pending.size() < kWriteChunk || flush();
     };
     {
         vrayrender::RenderDriver driver(&registry);
@@ -114,7 +174,7 @@ std::string RenderJob::render() {
     }
     progress.finish();
     countHostMessages();
-    return scene;
+    return flush() || writeFailed(reason);
 }
 
 void RenderJob::frameDone(const vrayrender::RecordedFrame& frame) {
@@ -133,10 +193,9 @@ void RenderJob::countHostMessages() {
     }
 }
 
-bool RenderJob::writeOutput(const std::string& text) {
-    std::string error;
-    if (OutputFile(options.output).write(text, &error)) return true;
-    return fail("cannot write \"" + options.output + "\": " + error);
+bool RenderJob::writeFailed(const std::string& reason) {
+    return fail("cannot write \"" + options.output + "\": " + reason +
+                (outputStarted ? "; the output is incomplete" : ""));
 }
 
 void RenderJob::printDetails() const {

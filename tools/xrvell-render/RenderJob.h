@@ -10,6 +10,7 @@
 
 namespace xrvell {
 
+class OutputFile;
 class PluginPath;
 
 // One run of xrvell-render: loads the plug-ins into the stand-in host, reads the scene,
@@ -25,17 +26,21 @@ public:
 
     // The exit status: 0 when all went well, 1 on errors. Nothing is written when the scene
     // cannot be read; errors shown by the plug-in during the render still leave a full file.
+    // Running out of memory is an error like the others. The summary line ends every run.
     int run();
 
     // The steps of run(), for callers that hold the scene text themselves: the scene into the
-    // host, then the frames rendered and written as they finish.
+    // host, then the frames rendered and written to an opened output as they finish (false
+    // when the output could not be written; the caller commits it).
     bool load(const std::string& sceneText);
-    std::string render();
+    bool render(OutputFile& output);
 
 private:
+    int runSteps();
     bool readScene(std::string* text);
+    bool outputIsNotTheScene();
     bool resolveFrames();
-    bool writeOutput(const std::string& text);
+    bool writeFailed(const std::string& reason);
     void countHostMessages();
     void printDetails() const;
     void printSummary() const;
@@ -51,6 +56,8 @@ private:
     size_t framesDone = 0;
     int warnings = 0;
     int errors = 0;
+    bool outputStarted = false;  // text has reached a target written in place
+    unsigned long long sceneDevice = 0, sceneInode = 0;
 };
 
 }  // namespace xrvell

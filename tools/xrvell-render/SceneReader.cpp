@@ -1,10 +1,13 @@
 #include "SceneReader.h"
 
+#include <maya/MFnDagNode.h>
 #include <maya/MFnDependencyNode.h>
+#include <maya/MFnNumericData.h>
 #include <maya/MPlugArray.h>
 #include <maya/MTime.h>
 #include <mayahost/Host.h>
 
+#include <cctype>
 #include <cstring>
 
 #include "AttributeWriter.h"
@@ -32,6 +35,97 @@ bool isMayaSceneType(const std::string& type) {
     for (const char* name : kMayaSceneTypes)
         if (type == name) return true;
     return false;
+}
+
+// Attributes every node, DAG node or shape has in Maya, which Maya writes into scene files
+// (hidden shapes, display overrides, render flags) and which the host does not model.
+enum class Inherited { AnyNode, DagNode, Shape };
+
+const struct {
+    Inherited scope;
+    const char* shortName;
+    const char* longName;
+} kInheritedAttributes[] = {
+    {Inherited::AnyNode, "cch", "caching"},
+    {Inherited::AnyNode, "fzn", "frozen"},
+    {Inherited::AnyNode, "ihi", "isHistoricallyInteresting"},
+    {Inherited::AnyNode, "nds", "nodeState"},
+    {Inherited::AnyNode, "bnm", "binMembership"},
+    {Inherited::DagNode, "v", "visibility"},
+    {Inherited::DagNode, "tmp", "template"},
+    {Inherited::DagNode, "io", "intermediateObject"},
+    {Inherited::DagNode, "lod", "lodVisibility"},
+    {Inherited::DagNode, "lodv", "lodVisibility"},
+    {Inherited::DagNode, "gh", "ghosting"},
+    {Inherited::DagNode, "iog", "instObjGroups"},
+    {Inherited::DagNode, "uoc", "useObjectColor"},
+    {Inherited::DagNode, "oc", "objectColor"},
+    {Inherited::DagNode, "obcc", "objectColorRGB"},
+    {Inherited::DagNode, "wfcc", "wireColorRGB"},
+    {Inherited::DagNode, "do", "drawOverride"},
+    {Inherited::DagNode, "ovdt", "overrideDisplayType"},
+    {Inherited::DagNode, "ovlod", "overrideLevelOfDetail"},
+    {Inherited::DagNode, "ovs", "overrideShading"},
+    {Inherited::DagNode, "ovt", "overrideTexturing"},
+    {Inherited::DagNode, "ovp", "overridePlayback"},
+    {Inherited::DagNode, "ove", "overrideEnabled"},
+    {Inherited::DagNode, "ovv", "overrideVisibility"},
+    {Inherited::DagNode, "hpb", "hideOnPlayback"},
+    {Inherited::DagNode, "ovrgbf", "overrideRGBColors"},
+    {Inherited::DagNode, "ovc", "overrideColor"},
+    {Inherited::DagNode, "ovrgb", "overrideColorRGB"},
+    {Inherited::DagNode, "ri", "renderInfo"},
+    {Inherited::DagNode, "rlio", "renderLayerInfo"},
+    {Inherited::DagNode, "hio", "hiddenInOutliner"},
+    {Inherited::DagNode, "uocol", "useOutlinerColor"},
+    {Inherited::DagNode, "oclr", "outlinerColor"},
+    {Inherited::DagNode, "sech", "selectionChildHighlighting"},
+    {Inherited::Shape, "ciog", "compInstObjGroups"},
+    {Inherited::Shape, "csh", "castsShadows"},
+    {Inherited::Shape, "rcsh", "receiveShadows"},
+    {Inherited::Shape, "vis", "primaryVisibility"},
+    {Inherited::Shape, "vir", "visibleInReflections"},
+    {Inherited::Shape, "vif", "visibleInRefractions"},
+    {Inherited::Shape, "mb", "motionBlur"},
+    {Inherited::Shape, "smo", "smoothShading"},
+    {Inherited::Shape, "ds", "doubleSided"},
+    {Inherited::Shape, "op", "opposite"},
+    {Inherited::Shape, "hot", "holdOut"},
+    {Inherited::Shape, "iss", "ignoreSelfShadowing"},
+};
+
+bool isInheritedAttribute(const std::string& attribute, bool dag, bool shape) {
+    for (const auto& entry : kInheritedAttributes) {
+        const bool applies = entry.scope == Inherited::AnyNode ||
+                             (entry.scope == Inherited::DagNode && dag) ||
+                             (entry.scope == Inherited::Shape && shape);
+        if (applies && (attribute == entry.shortName || attribute == entry.longName)) return true;
+    }
+    return false;
+}
+
+// ".iog[0].og[0].gcl" belongs to "iog".
+std::string rootAttribute(const std::string& attribute) {
+    return attribute.substr(0, attribute.find_first_of("[."));
+}
+
+bool isNamePart(const std::string& part) {
+    if (part.empty() || std::isdigit(static_cast<unsigned char>(part[0]))) return false;
+    for (char c : part)
+        if (!std::isalnum(static_cast<unsigned char>(c)) && c != '_') return false;
+    return true;
+}
+
+// Maya's node names: letters, digits and '_', not starting with a digit, with ':' between
+// namespaces. Anything else would also break the .vrscene the name is written into.
+bool isNodeName(const std::string& name) {
+    size_t start = 0;
+    for (;;) {
+        const size_t colon = name.find(':', start);
+        if (!isNamePart(name.substr(start, colon - start))) return false;
+        if (colon == std::string::npos) return true;
+        start = colon + 1;
+    }
 }
 
 // ":time1" (root namespace) and "|group|shape" (DAG path) both name a node by its last part.
@@ -75,6 +169,26 @@ int componentsOf(const std::string& type) {
 }
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+
+// "double" for the children of translate, as the -type names them.
+const char* componentTypeName(int numericType) {
+    switch (numericType) {
+        case MFnNumericData::kFloat:
+            return "float";
+        case MFnNumericData::kInt:
+            return "long";
+        case MFnNumericData::kShort:
+            return "short";
+        default:
+            return "double";
+    }
+}
+
+// A value's words as a message names them: the word itself, or how many there are.
+std::string givenWords(const std::vector<MaWord>& words) {
+    if (words.size() == 1) return quoted(words[0].text);
+    return std::to_string(words.size()) + " values";
+}
 
 // The host's messages name the call they come from; ours name the command.
 std::string withoutPrefix(const std::string& text, const std::string& prefix) {
@@ -168,6 +282,10 @@ bool SceneReader::createNodeCommand(const MaStatement& statement) {
     if (args.plain().size() != 1) return fail("createNode: expects one node type");
     const std::string& type = args.plain()[0].text;
     const std::string name = args.has("n") ? nodeNameOf(*args.value("n")) : "";
+    if (!name.empty() && !isNodeName(name))
+        return fail("createNode: " + quoted(name) +
+                    " is not a valid node name (letters, digits and '_', not starting with a "
+                    "digit; ':' between namespaces)");
     if (args.has("s") && !name.empty() && findNode(name)) {
         select(name);  // a shared node that the scene already has
         return true;
@@ -201,10 +319,8 @@ bool SceneReader::createInHost(const std::string& type, const std::string& name,
         object = mayahost::createNode(type, name, &error);
     }
     if (object.isNull()) return fail("createNode: " + withoutPrefix(error, "createNode: "));
-    mayahost::NodeTypeInfo info;
-    mayahost::findNodeType(type, &info);
     const std::string key = name.empty() ? mayahost::nodeName(object) : name;
-    nodes[key] = SceneNode{object, type, info.pluginPath.empty()};
+    nodes[key] = describe(object, type);
     skippedNodes.erase(key);  // a name an earlier, skipped node had
     created.push_back(object);
     select(key);
@@ -249,10 +365,16 @@ const SceneReader::SceneNode* SceneReader::findNode(const std::string& name) {
     MObject object = mayahost::findNode(name);  // one of the nodes the host starts with
     if (object.isNull()) return nullptr;
     MFnDependencyNode node(object);
-    const std::string type = node.typeName().asChar();
+    return &(nodes[name] = describe(object, node.typeName().asChar()));
+}
+
+SceneReader::SceneNode SceneReader::describe(MObject object, const std::string& type) {
     mayahost::NodeTypeInfo info;
     mayahost::findNodeType(type, &info);
-    return &(nodes[name] = SceneNode{object, type, info.pluginPath.empty()});
+    MStatus isDag;
+    MFnDagNode dag(object, &isDag);
+    return SceneNode{object, type, info.pluginPath.empty(), isDag == MStatus::kSuccess,
+                     info.isShape};
 }
 
 bool SceneReader::splitPlug(const std::string& text, PlugPath* path) {
@@ -267,11 +389,12 @@ bool SceneReader::splitPlug(const std::string& text, PlugPath* path) {
 
 bool SceneReader::missingAttribute(const SceneNode& node, const PlugPath& path, bool valueGiven,
                                    const std::string& context) {
-    if (valueGiven && !node.builtIn)
+    const std::string root = rootAttribute(path.attribute);
+    if (valueGiven && !node.builtIn && !isInheritedAttribute(root, node.dag, node.shape))
         return fail(context + "node " + quoted(path.node) + " has no attribute " +
                     quoted(path.attribute));
-    warnOnce(warnedAttributes, node.type + "." + path.attribute,
-             "attribute " + quoted(path.attribute) + " is not modelled on " + quoted(node.type) +
+    warnOnce(warnedAttributes, node.type + "." + root,
+             "attribute " + quoted(root) + " is not modelled on " + quoted(node.type) +
                  " nodes; skipped");
     return true;
 }
@@ -306,8 +429,9 @@ bool SceneReader::setAttrCommand(const MaStatement& statement) {
     const bool valueGiven = !value.type.empty() || !value.words.empty();
     MPlug plug = mayahost::findPlug(node->object, path.attribute);
     if (plug.isNull()) {
-        if (valueGiven && componentsOf(value.type)) return setCompound(*node, path, args);
-        return missingAttribute(*node, path, valueGiven);
+        const std::vector<MPlug> children = childrenOf(*node, path.attribute);
+        if (children.empty()) return missingAttribute(*node, path, valueGiven);
+        return !valueGiven || setCompound(*node, path, children, value);
     }
     if (!valueGiven) return true;  // only the attribute's flags: nothing the render sees
     mayahost::AttributeInfo info;
@@ -321,34 +445,40 @@ bool SceneReader::setAttrCommand(const MaStatement& statement) {
     return true;
 }
 
-// "-type double3" on a compound the host keeps as its children: t -> tx ty tz.
-bool SceneReader::setCompound(const SceneNode& node, const PlugPath& path,
-                              const MaArguments& args) {
-    const std::string& type = *args.value("type");
-    const size_t count = static_cast<size_t>(componentsOf(type));
+// The children the host keeps for a two- or three-part compound: t -> tx ty tz.
+std::vector<MPlug> SceneReader::childrenOf(const SceneNode& node, const std::string& attribute) {
     std::vector<MPlug> children;
     for (const char* suffixes : {"XYZ", "xyz"}) {
         children.clear();
-        for (size_t i = 0; i < count; ++i) {
-            MPlug child = mayahost::findPlug(node.object, path.attribute + suffixes[i]);
+        for (size_t i = 0; i < 3; ++i) {
+            MPlug child = mayahost::findPlug(node.object, attribute + suffixes[i]);
             if (child.isNull()) break;
             children.push_back(child);
         }
-        if (children.size() == count) break;
+        if (children.size() >= 2) return children;
     }
-    if (children.size() != count) return missingAttribute(node, path, true);
-    const size_t given = args.plain().size() - 1;
-    if (given != count)
-        return fail(quoted(path.node + "." + path.attribute) + " expects " + std::to_string(count) +
-                    " numbers (-type " + quoted(type) + "), not " + std::to_string(given) +
-                    " values");
+    return {};
+}
+
+// A value for a compound the host keeps as its children: as many numbers as it has parts, with
+// or without a numeric -type of that many parts ("double3").
+bool SceneReader::setCompound(const SceneNode& node, const PlugPath& path,
+                              const std::vector<MPlug>& children, const SetAttrValue& value) {
+    const std::string plugName = path.node + "." + path.attribute;
+    const size_t count = children.size();
+    mayahost::AttributeInfo first;
+    mayahost::findAttribute(node.type, children[0].partialName().asChar(), &first);
+    const std::string expected =
+        quoted(plugName) + " expects " + std::to_string(count) + " numbers (-type " +
+        quoted(componentTypeName(first.numericType) + std::to_string(count)) + "), not ";
+    if (!value.type.empty() && static_cast<size_t>(componentsOf(value.type)) != count)
+        return fail(expected + "-type " + quoted(value.type));
+    if (value.words.size() != count) return fail(expected + givenWords(value.words));
     for (size_t i = 0; i < count; ++i) {
-        const MaWord& word = args.plain()[i + 1];
         mayahost::AttributeInfo info;
         mayahost::findAttribute(node.type, children[i].partialName().asChar(), &info);
         const std::string problem =
-            AttributeWriter(children[i], info, path.node + "." + path.attribute)
-                .write({"", {word}});
+            AttributeWriter(children[i], info, plugName).write({"", {value.words[i]}});
         if (!problem.empty()) return fail(problem);
     }
     return true;

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "AttributeWriter.h"
 #include "Diagnostics.h"
 #include "MaArguments.h"
 #include "MaTokenizer.h"
@@ -36,6 +37,8 @@ private:
         MObject object;
         std::string type;
         bool builtIn = false;  // one of the host's own types, which model Maya's only in part
+        bool dag = false;
+        bool shape = false;
     };
     struct PlugPath {
         std::string node;
@@ -50,13 +53,16 @@ private:
     bool createInHost(const std::string& type, const std::string& name, const MaArguments& args);
     bool selectCommand(const MaStatement& statement);
     bool setAttrCommand(const MaStatement& statement);
-    bool setCompound(const SceneNode& node, const PlugPath& path, const MaArguments& args);
+    std::vector<MPlug> childrenOf(const SceneNode& node, const std::string& attribute);
+    bool setCompound(const SceneNode& node, const PlugPath& path,
+                     const std::vector<MPlug>& children, const SetAttrValue& value);
     bool connectAttrCommand(const MaStatement& statement);
     bool addAttrCommand(const MaStatement& statement);
     bool skipCommand(const MaStatement& statement);
 
     bool splitPlug(const std::string& text, PlugPath* path);
     const SceneNode* findNode(const std::string& name);
+    static SceneNode describe(MObject object, const std::string& type);
     bool missingDefaultNode(const PlugPath& path);
     bool isSkipped(const std::string& node) const { return skippedNodes.count(node) > 0; }
     void skipNode(const std::string& node) { skippedNodes.insert(node); }

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "VisibleText.h"
+
 namespace xrvell {
 namespace {
 
@@ -53,6 +55,10 @@ void VrsceneValue::appendDouble(double value, std::string& out) {
 void VrsceneValue::appendString(const std::string& text, std::string& out) {
     out += '"';
     for (char c : text) {
+        if (VisibleText::isControl(c)) {
+            VisibleText::appendEscape(c, out);
+            continue;
+        }
         if (c == '"' || c == '\\') out += '\\';
         out += c;
     }

@@ -13,7 +13,8 @@ public:
     static void appendFloat(float value, std::string& out);
     // Doubles with the fewest digits that read back to the same double.
     static void appendDouble(double value, std::string& out);
-    // In double quotes, with '"' and '\' escaped.
+    // In double quotes, with '"' and '\' escaped and control characters as "\n", "\t", "\r" or
+    // a three-digit octal escape ("\033"): a string never breaks its line.
     static void appendString(const std::string& text, std::string& out);
 };
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "VisibleText.h"
 #include "VrsceneValue.h"
 
 namespace xrvell {
@@ -42,7 +43,9 @@ std::string VrsceneWriter::write(const vrayrender::RenderRecord& record) const {
 void VrsceneWriter::writeHeader(std::string& out) const {
     out += "// V-Ray scene: what the ";
     out += kPluginType;
-    out += " plugin received, written by xrvell-render\n// Scene: " + scene + "\n";
+    out += " plugin received, written by xrvell-render\n// Scene: ";
+    VisibleText::append(scene, out);  // a newline in the path must not end the comment
+    out += '\n';
     out += "// Frames " + doubleText(settings.startFrame) + " to " + doubleText(settings.endFrame) +
            ", step " + doubleText(settings.byFrame) + "; motion blur ";
     const vrayrender::MotionBlur& blur = settings.motionBlur;

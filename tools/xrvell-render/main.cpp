@@ -2,11 +2,14 @@
 // xrVellVRay renderer plugin receives as a .vrscene.
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "CommandLine.h"
 #include "RenderJob.h"
+#include "VisibleText.h"
 
 namespace {
 
@@ -15,20 +18,29 @@ const char* environment(const char* name) { return std::getenv(name); }
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> args(argv + 1, argv + argc);
-    const xrvell::CommandLine commandLine(
-        args, xrvell::DefaultPaths{XRVELL_DEFAULT_PLUGIN_DIR, XRVELL_DEFAULT_RENDERER_PLUGIN_DIR},
-        environment);
-    switch (commandLine.outcome()) {
-        case xrvell::CommandLine::Outcome::Help:
-            std::fputs(xrvell::CommandLine::usage(), stdout);
-            return 0;
-        case xrvell::CommandLine::Outcome::Error:
-            std::fprintf(stderr, "xrvell-render: %s\n%s", commandLine.error().c_str(),
-                         xrvell::CommandLine::usage());
-            return 2;
-        case xrvell::CommandLine::Outcome::Render:
-            break;
+    try {
+        const std::vector<std::string> args(argv + 1, argv + argc);
+        const xrvell::CommandLine commandLine(
+            args,
+            xrvell::DefaultPaths{XRVELL_DEFAULT_PLUGIN_DIR, XRVELL_DEFAULT_RENDERER_PLUGIN_DIR},
+            environment);
+        switch (commandLine.outcome()) {
+            case xrvell::CommandLine::Outcome::Help:
+                std::fputs(xrvell::CommandLine::usage(), stdout);
+                return 0;
+            case xrvell::CommandLine::Outcome::Error:
+                std::fprintf(stderr, "xrvell-render: %s\n%s",
+                             xrvell::VisibleText::of(commandLine.error()).c_str(),
+                             xrvell::CommandLine::usage());
+                return 2;
+            case xrvell::CommandLine::Outcome::Render:
+                break;
+        }
+        return xrvell::RenderJob(commandLine.options(), stderr).run();
+    } catch (const std::bad_alloc&) {
+        std::fputs("xrvell-render: out of memory\n", stderr);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "xrvell-render: internal error: %s\n", error.what());
     }
-    return xrvell::RenderJob(commandLine.options(), stderr).run();
+    return 1;
 }

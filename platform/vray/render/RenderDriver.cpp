@@ -5,7 +5,11 @@
 #include <mayahost/Renderer.h>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <limits>
 
 #include "ParameterReader.h"
 #include "params/AnimatedParameterInterface.h"
@@ -36,11 +40,69 @@ std::vector<double> sampleTimes(double frame, const MotionBlur& blur) {
     return times;
 }
 
+namespace {
+
+// How close, in steps, the last frame must come to the end to be taken as the end itself.
+const double kEndTolerance = 1e-9;
+
+double unitInLastPlace(double value) {
+    const double magnitude = std::fabs(value);
+    return std::nextafter(magnitude, std::numeric_limits<double>::infinity()) - magnitude;
+}
+
+// start + i * step misses the decimal the user meant by a unit or two in the last place
+// (3 * 0.1 is 0.30000000000000004): such a frame becomes the short decimal it stands for.
+double tidyFrame(double frame) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.15g", frame);
+    const double tidy = std::strtod(text, nullptr);
+    return std::fabs(tidy - frame) <= 2 * unitInLastPlace(frame) ? tidy : frame;
+}
+
+bool beyondSampleTimes(double time) { return !(std::fabs(time) <= kMaxSampleTime); }
+
+bool samplesBeyondSampleTimes(double frame, const MotionBlur& blur) {
+    for (double time : sampleTimes(frame, blur))
+        if (beyondSampleTimes(time)) return true;
+    return false;
+}
+
+// The frames of the range, or why there are none.
+RangeProblem computeFrames(const RenderSettings& settings, std::vector<double>* all) {
+    using Kind = RangeProblem::Kind;
+    const double start = settings.startFrame, end = settings.endFrame, step = settings.byFrame;
+    if (!(step > 0.0) || !std::isfinite(step)) return {Kind::NoStep, start};
+    if (beyondSampleTimes(start)) return {Kind::FrameOutOfRange, start};
+    if (beyondSampleTimes(end)) return {Kind::FrameOutOfRange, end};
+    if (end < start) return {Kind::Backwards, start};
+    if (start + step == start) return {Kind::FramesTooClose, start};
+    const double steps = (end - start) / step;
+    if (!(steps + kEndTolerance < static_cast<double>(kMaxFrames)))
+        return {Kind::TooManyFrames, start};
+    const size_t last = static_cast<size_t>(std::floor(steps + kEndTolerance));
+    all->reserve(last + 1);
+    for (size_t i = 0; i <= last; ++i) {
+        double frame = i == 0 ? start : tidyFrame(start + static_cast<double>(i) * step);
+        if (i == last && std::fabs(frame - end) <= kEndTolerance * step) frame = end;
+        if (i > 0 && !(frame > all->back())) return {Kind::FramesTooClose, all->back()};
+        all->push_back(frame);
+    }
+    for (double frame : {all->front(), all->back()})
+        if (samplesBeyondSampleTimes(frame, settings.motionBlur))
+            return {Kind::SamplesOutOfRange, frame};
+    return {};
+}
+
+}  // namespace
+
+RangeProblem rangeProblem(const RenderSettings& settings) {
+    std::vector<double> all;
+    return computeFrames(settings, &all);
+}
+
 std::vector<double> frames(const RenderSettings& settings) {
     std::vector<double> all;
-    if (settings.byFrame <= 0.0) return all;
-    for (double f = settings.startFrame; f <= settings.endFrame + 1e-9; f += settings.byFrame)
-        all.push_back(f);
+    if (computeFrames(settings, &all).kind != RangeProblem::Kind::None) all.clear();
     return all;
 }
 
@@ -58,10 +120,10 @@ RenderRecord RenderDriver::render(const RenderSettings& settings) {
     record.geometrySources = static_cast<int>(sources.size());
     for (double frame : frames(settings)) {
         RecordedFrame done = renderFrame(frame, settings.motionBlur);
-        if (settings.frameDone)
-            settings.frameDone(std::move(done));
-        else
+        if (!settings.frameDone)
             record.frames.push_back(std::move(done));
+        else if (!settings.frameDone(std::move(done)))
+            break;
     }
     finishRender();
     record.instancesCreated = instanceCounter;

@@ -1,0 +1,16 @@
+﻿requires "xrVellMaya" "1.0";
+requires "xrVellMaya.so" "1.0";
+requires "xrVellVRayMaya" "1.0";
+createNode transform -n "ns:fur_1";
+createNode xrVellMaya -n "ns:furShape" -p "ns:fur_1";
+	setAttr ".v" no;
+	setAttr ".io" yes;
+	setAttr -s 2 ".iog[0].og";
+	setAttr ".iog[0].og[1].gcl" -type "componentList" 1 "f[0]";
+	setAttr ".csh" no;
+	setAttr ".rn" -type "double3" -1 -2 1e-400;
+createNode xrVellMayaVRay -n "bridge" -p "ns:fur_1";
+	setAttr ".ovdt" 2;
+setAttr "ns:fur_1.t" 1 2 3;
+setAttr "ns:fur_1.s" -type "float3" 2 2 2;
+connectAttr "ns:furShape.od" "bridge.vid";
