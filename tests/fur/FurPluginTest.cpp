@@ -81,10 +81,14 @@ TEST_F(FurPlugin, TheBridgeRegistersNoDataType) {
     EXPECT_FALSE(mayahost::findDataTypeById(kFurDataId));
 }
 
-TEST_F(FurPlugin, UnloadingTakesItsRegistrationsAndAReloadStartsAnEmptyCallLog) {
+TEST_F(FurPlugin, UnloadingTakesItsRegistrationsAndAReloadStartsAnEmptyRecordingCallLog) {
     loadFur();
     MObject fur = createFur("fur");
-    static_cast<MPxSurfaceShape*>(mayahost::userNode(fur))->boundingBox();
+    auto* shape = static_cast<MPxSurfaceShape*>(mayahost::userNode(fur));
+    shape->boundingBox();
+    EXPECT_EQ(furCalls().size(), 1u);
+    ASSERT_TRUE(xrvellfur::setFurCallRecording(kFurPluginPath, false));
+    shape->boundingBox();
     EXPECT_EQ(furCalls().size(), 1u);
     ASSERT_EQ(mayahost::deleteNode(fur), MStatus::kSuccess);
 
@@ -93,8 +97,13 @@ TEST_F(FurPlugin, UnloadingTakesItsRegistrationsAndAReloadStartsAnEmptyCallLog) 
     EXPECT_FALSE(mayahost::findDataTypeById(kFurDataId));
     EXPECT_EQ(xrvellfur::furCallLog(kFurPluginPath), nullptr);
 
+    EXPECT_FALSE(xrvellfur::setFurCallRecording(kFurPluginPath, true));
+
     loadFur();
     EXPECT_TRUE(furCalls().empty());
+    MObject again = createFur("fur");
+    static_cast<MPxSurfaceShape*>(mayahost::userNode(again))->boundingBox();
+    EXPECT_EQ(furCalls().size(), 1u);
 }
 
 TEST_F(FurPlugin, ExportsOnlyItsEntryPointsVersionAndCallLog) {
@@ -115,6 +124,7 @@ TEST_F(FurPlugin, ExportsOnlyItsEntryPointsVersionAndCallLog) {
         "_Z16initializePluginN8Autodesk4Maya16OpenMaya202200007MObjectE",
         "_Z18uninitializePluginN8Autodesk4Maya16OpenMaya202200007MObjectE",
         "xrVellMayaCallLog",
+        "xrVellMayaRecordCalls",
     };
     EXPECT_EQ(symbols, expected);
 }

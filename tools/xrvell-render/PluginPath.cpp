@@ -1,6 +1,7 @@
 #include "PluginPath.h"
 
 #include <mayahost/Host.h>
+#include <xrvellfur/FurCalls.h>
 #include <unistd.h>
 
 #include <climits>
@@ -44,6 +45,9 @@ std::string PluginPath::require(const std::string& name) {
         if (!load) return "plug-in \"" + name + "\" (" + path + ") failed to load: " + load.error;
         loaded.insert(identity);
         files.push_back(path);
+        // The fur stand-in logs every call for tests; nothing reads that log here, and it would
+        // grow with every node and sample of the render. Other plug-ins have no such switch.
+        xrvellfur::setFurCallRecording(path, false);
         return "";
     }
     return "required plug-in \"" + name + "\" not found; " + searchedText();

@@ -10,3 +10,4 @@ void clearCalls();
 
 // Looked up by tests with dlsym; see FurCalls.h.
 extern "C" __attribute__((visibility("default"))) xrvellfur::FurCallLog* xrVellMayaCallLog();
+extern "C" __attribute__((visibility("default"))) void xrVellMayaRecordCalls(int on);

@@ -32,7 +32,8 @@ struct AttributeObj : Object {
     bool array = false;
     bool affectsWorldSpace = false;
 
-    NodeType* owner = nullptr;              // set when added to a node type
+    NodeType* owner = nullptr;  // set when added to a node type
+    size_t slotIndex = 0;       // its place among its type's, or its node's dynamic, attributes
     const NodeObj* dynamicOwner = nullptr;  // set when added to one node as a dynamic attribute
     std::vector<AttributeObj*> affects;
     std::vector<AttributeObj*> affectedBy;

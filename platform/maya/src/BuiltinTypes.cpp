@@ -32,6 +32,7 @@ AttributeObj& addAttribute(NodeType& type, const char* longName, const char* sho
     attribute->shortName = shortName;
     attribute->kind = kind;
     attribute->owner = &type;
+    attribute->slotIndex = type.attributes.size();
     type.attributes.push_back(Access::handle(attribute));
     return *attribute;
 }

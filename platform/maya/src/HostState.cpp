@@ -58,12 +58,23 @@ AttributeObj* NodeType::findAttribute(const std::string& attributeName) const {
 }
 
 Slot& NodeObj::slot(const AttributeObj& attribute) {
-    auto found = slots.find(&attribute);
-    if (found != slots.end()) return found->second;
-    Slot& fresh = slots[&attribute];
-    fresh.value = attribute.defaultValue;
-    fresh.dirty = attribute.isComputed();
-    return fresh;
+    Slot* slot = nullptr;
+    if (attribute.owner == type) {
+        if (slots.size() < type->attributes.size()) slots.resize(type->attributes.size());
+        slot = &slots[attribute.slotIndex];
+    } else if (attribute.dynamicOwner == this) {
+        if (dynamicSlots.size() < dynamicAttributes.size())
+            dynamicSlots.resize(dynamicAttributes.size());
+        slot = &dynamicSlots[attribute.slotIndex];
+    } else {
+        slot = &strays[&attribute];
+    }
+    if (!slot->made) {
+        slot->made = true;
+        slot->value = attribute.defaultValue;
+        slot->dirty = attribute.isComputed();
+    }
+    return *slot;
 }
 
 AttributeObj* NodeObj::findAttribute(const std::string& attributeName) const {
@@ -110,6 +121,8 @@ void destroyNode(NodeObj* node) {
     delete user;
     // Values may hold data made by the plug-in; they must go while its code is loaded.
     node->slots.clear();
+    node->dynamicSlots.clear();
+    node->strays.clear();
     for (const MObject& handle : node->dynamicAttributes)
         attributeOf(handle)->dynamicOwner = nullptr;
     node->dynamicAttributes.clear();

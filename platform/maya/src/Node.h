@@ -16,6 +16,7 @@ namespace detail {
 struct Slot {
     Value value;
     bool dirty = false;
+    bool made = false;  // holds the attribute's default, or a value set since
     bool evaluating = false;
 };
 
@@ -29,7 +30,11 @@ struct NodeObj : Object {
     std::vector<NodeObj*> children;  // DAG children, in the order they were parented
     std::vector<MObject> dynamicAttributes;
     MaterialSettings material;  // the shading assigned to a shape
-    std::unordered_map<const AttributeObj*, Slot> slots;
+    // Values by the attribute's place, made on first use. Each vector is sized once for its
+    // attributes, so references to slots stay valid; scenes of thousands of nodes stay compact.
+    std::vector<Slot> slots;
+    std::vector<Slot> dynamicSlots;
+    std::unordered_map<const AttributeObj*, Slot> strays;  // attributes of no place here
 
     Slot& slot(const AttributeObj& attribute);
     // Static attributes of the type first, then the node's dynamic ones.

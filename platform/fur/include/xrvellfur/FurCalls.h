@@ -36,7 +36,10 @@ struct FurCall {
 using FurCallLog = std::vector<FurCall>;
 using FurCallLogAccessor = FurCallLog* (*)();
 
+using FurCallRecordingSwitch = void (*)(int on);
+
 constexpr const char* kCallLogSymbol = "xrVellMayaCallLog";
+constexpr const char* kRecordCallsSymbol = "xrVellMayaRecordCalls";
 
 // The log of the fur plug-in loaded from that path; null when it is not loaded.
 inline FurCallLog* furCallLog(const std::string& pluginPath) {
@@ -46,6 +49,19 @@ inline FurCallLog* furCallLog(const std::string& pluginPath) {
     FurCallLog* log = accessor ? accessor() : nullptr;
     dlclose(library);  // only drops the reference taken above; the host keeps it loaded
     return log;
+}
+
+// Turns the recording of the fur plug-in loaded from that path on (as it starts) or off. A host
+// that never reads the log turns it off, since it grows with every call. False when the path is
+// not a loaded fur plug-in.
+inline bool setFurCallRecording(const std::string& pluginPath, bool on) {
+    void* library = dlopen(pluginPath.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (!library) return false;
+    auto setRecording =
+        reinterpret_cast<FurCallRecordingSwitch>(dlsym(library, kRecordCallsSymbol));
+    if (setRecording) setRecording(on ? 1 : 0);
+    dlclose(library);
+    return setRecording != nullptr;
 }
 
 }  // namespace xrvellfur

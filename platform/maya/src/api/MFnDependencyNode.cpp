@@ -92,6 +92,7 @@ MStatus MFnDependencyNode::addAttribute(const MObject& attr) {
         return MStatus::kFailure;
     }
     attribute->dynamicOwner = node;
+    attribute->slotIndex = node->dynamicAttributes.size();
     node->dynamicAttributes.push_back(attr);
     return MStatus::kSuccess;
 }

@@ -67,6 +67,7 @@ MStatus MPxNode::addAttribute(const MObject& attr) {
         return MStatus::kFailure;
     }
     attribute->owner = type;
+    attribute->slotIndex = type->attributes.size();
     type->attributes.push_back(attr);
     return MStatus::kSuccess;
 }
