@@ -14,22 +14,12 @@
 #include <thread>
 #include <vector>
 
+#include "Files.h"
 #include "OutputFile.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contentsOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-void writeFile(const fs::path& path, const std::string& text) {
-    std::ofstream(path, std::ios::binary) << text;
-}
 
 unsigned int modeOf(const fs::path& path) {
     struct stat status;

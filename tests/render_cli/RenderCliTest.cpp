@@ -16,22 +16,12 @@
 #include <thread>
 #include <vector>
 
+#include "Files.h"
 #include "ToolRun.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contentsOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-void writeFile(const fs::path& path, const std::string& text) {
-    std::ofstream(path, std::ios::binary) << text;
-}
 
 // Whether the text is the time taken as the summary writes it: "0.25 s\n".
 bool isSeconds(const std::string& text) {
