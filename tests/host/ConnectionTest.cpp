@@ -46,6 +46,36 @@ TEST_F(Connections, ConnectedToSeesEachSideOnlyWhenAskedForIt) {
     EXPECT_EQ(error, "disconnect: fur.outputData is not connected to bridge.inputData");
 }
 
+// A plug both fed and feeding others lists its connections in the order they were made, and
+// keeps doing so, and keeps passing values on, after connections before them have gone.
+TEST_F(Connections, APlugListsItsConnectionsInTheOrderMadeAcrossRemovals) {
+    for (const char* name : {"a", "b", "c", "d", "e"}) mayahost::createNode("transform", name);
+    for (const auto& link : {std::make_pair("b.tx", "c.tx"), std::make_pair("a.tx", "b.tx"),
+                             std::make_pair("b.tx", "d.tx")})
+        ASSERT_EQ(mayahost::connectAttr(link.first, link.second), MStatus::kSuccess);
+    const MPlug middle = mayahost::findPlug(mayahost::findNode("b"), "translateX");
+    MPlugArray plugs;
+    EXPECT_TRUE(middle.connectedTo(plugs, true, true));
+    EXPECT_EQ(namesOf(plugs),
+              (std::vector<std::string>{"c.translateX", "a.translateX", "d.translateX"}));
+
+    ASSERT_EQ(mayahost::disconnectAttr("b.tx", "c.tx"), MStatus::kSuccess);
+    ASSERT_EQ(mayahost::connectAttr("b.tx", "e.tx"), MStatus::kSuccess);
+    EXPECT_TRUE(middle.connectedTo(plugs, true, true));
+    EXPECT_EQ(namesOf(plugs),
+              (std::vector<std::string>{"a.translateX", "d.translateX", "e.translateX"}));
+    EXPECT_TRUE(middle.connectedTo(plugs, false, true));
+    EXPECT_EQ(namesOf(plugs), (std::vector<std::string>{"d.translateX", "e.translateX"}));
+
+    ASSERT_EQ(mayahost::deleteNode(mayahost::findNode("d")), MStatus::kSuccess);
+    EXPECT_TRUE(middle.connectedTo(plugs, true, true));
+    EXPECT_EQ(namesOf(plugs), (std::vector<std::string>{"a.translateX", "e.translateX"}));
+    ASSERT_EQ(mayahost::findPlug(mayahost::findNode("a"), "translateX").setDouble(5.0),
+              MStatus::kSuccess);
+    EXPECT_EQ(mayahost::findPlug(mayahost::findNode("e"), "translateX").asDouble(), 5.0);
+    EXPECT_EQ(mayahost::findPlug(mayahost::findNode("c"), "translateX").asDouble(), 0.0);
+}
+
 TEST_F(Connections, RefusesUnknownPlugsUnreadableSourcesAndASecondInput) {
     createFur("fur");
     createFur("other");

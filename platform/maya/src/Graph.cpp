@@ -4,6 +4,8 @@
 #include <maya/MPlug.h>
 #include <maya/MPlugArray.h>
 
+#include <stdexcept>
+
 namespace mayahost {
 namespace detail {
 namespace {
@@ -24,21 +26,39 @@ void dirtyDependents(NodeObj& node, const AttributeObj& attribute) {
             if (target && targetAttribute) markDirty(*target, *targetAttribute);
         }
     }
-    for (size_t at : outgoingConnections(node, attribute)) {
-        const Connection& connection = state().connections[at];
+    const std::vector<Connection>& connections = state().connections;
+    for (ConnectionPosition at = firstOutgoingConnection(node, attribute); at != kNoConnection;
+         at = connections[at].nextFromSource) {
+        const Connection& connection = connections[at];
         markDirty(*connection.destinationNode, *connection.destinationAttribute);
     }
 }
 
+void clearConnectionPositions(std::vector<Slot>& slots) {
+    for (Slot& slot : slots) slot.incoming = slot.firstOutgoing = slot.lastOutgoing = kNoConnection;
+}
+
+// Records the connection at this position in the slots of the plugs at both ends.
+void indexConnection(ConnectionPosition at) {
+    Connection& connection = state().connections[at];
+    connection.nextFromSource = kNoConnection;
+    connection.destinationNode->storage(*connection.destinationAttribute).incoming = at;
+    Slot& source = connection.sourceNode->storage(*connection.sourceAttribute);
+    if (source.lastOutgoing == kNoConnection)
+        source.firstOutgoing = at;
+    else
+        state().connections[source.lastOutgoing].nextFromSource = at;
+    source.lastOutgoing = at;
+}
+
 void rebuildConnectionIndex() {
     HostState& host = state();
-    host.incomingIndex.clear();
-    host.outgoingIndex.clear();
-    for (size_t at = 0; at < host.connections.size(); ++at) {
-        const Connection& c = host.connections[at];
-        host.incomingIndex[PlugKey(c.destinationNode, c.destinationAttribute)] = at;
-        host.outgoingIndex[PlugKey(c.sourceNode, c.sourceAttribute)].push_back(at);
+    for (NodeObj* node : host.nodes) {
+        clearConnectionPositions(node->slots);
+        clearConnectionPositions(node->dynamicSlots);
     }
+    const auto count = static_cast<ConnectionPosition>(host.connections.size());
+    for (ConnectionPosition at = 0; at < count; ++at) indexConnection(at);
     host.connectionIndexStale = false;
 }
 
@@ -50,26 +70,22 @@ void refreshConnectionIndex() {
 
 const Connection* incomingConnection(const NodeObj& node, const AttributeObj& attribute) {
     refreshConnectionIndex();
-    HostState& host = state();
-    const auto found = host.incomingIndex.find(PlugKey(&node, &attribute));
-    return found == host.incomingIndex.end() ? nullptr : &host.connections[found->second];
+    const Slot* slot = node.laidOut(attribute);
+    return slot && slot->incoming != kNoConnection ? &state().connections[slot->incoming] : nullptr;
 }
 
-const std::vector<size_t>& outgoingConnections(const NodeObj& node, const AttributeObj& attribute) {
-    static const std::vector<size_t> none;
+ConnectionPosition firstOutgoingConnection(const NodeObj& node, const AttributeObj& attribute) {
     refreshConnectionIndex();
-    HostState& host = state();
-    const auto found = host.outgoingIndex.find(PlugKey(&node, &attribute));
-    return found == host.outgoingIndex.end() ? none : found->second;
+    const Slot* slot = node.laidOut(attribute);
+    return slot ? slot->firstOutgoing : kNoConnection;
 }
 
 void addConnection(const Connection& connection) {
     refreshConnectionIndex();
     HostState& host = state();
-    const size_t at = host.connections.size();
+    if (host.connections.size() >= kNoConnection) throw std::length_error("too many connections");
     host.connections.push_back(connection);
-    host.incomingIndex[PlugKey(connection.destinationNode, connection.destinationAttribute)] = at;
-    host.outgoingIndex[PlugKey(connection.sourceNode, connection.sourceAttribute)].push_back(at);
+    indexConnection(static_cast<ConnectionPosition>(host.connections.size() - 1));
 }
 
 void connectionsRemoved() { state().connectionIndexStale = true; }

@@ -12,8 +12,10 @@ void assign(NodeObj& node, const AttributeObj& attribute, const Value& value);
 void markDirty(NodeObj& node, const AttributeObj& attribute);
 void markClean(NodeObj& node, const AttributeObj& attribute);
 const Connection* incomingConnection(const NodeObj& node, const AttributeObj& attribute);
-// Positions in the connection list of the connections from this plug, in the order made.
-const std::vector<size_t>& outgoingConnections(const NodeObj& node, const AttributeObj& attribute);
+// Position in the connection list of the first connection from this plug, or kNoConnection;
+// the others follow through Connection::nextFromSource, in the order they were made.
+ConnectionPosition firstOutgoingConnection(const NodeObj& node, const AttributeObj& attribute);
+// Throws std::length_error when the list has no position left for it.
 void addConnection(const Connection& connection);
 // To be called whenever connections leave the list.
 void connectionsRemoved();

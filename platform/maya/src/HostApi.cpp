@@ -78,6 +78,7 @@ NodeObj* makeNode(NodeType& type, const std::string& name, NodeObj* parent) {
     node->name = uniqueName(name, type.name);
     state().nodes.push_back(node);
     state().nodesByName[node->name] = node;
+    if (type.name == "time") state().timeNodes.push_back(node);
     if (type.isDag) setParent(*node, parent);
     if (type.creator) {
         node->user = static_cast<MPxNode*>(type.creator());
@@ -322,8 +323,7 @@ void setCurrentTime(const MTime& time) {
     host.currentTime = time;
     Value value;
     value.setTime(MTime(time.as(MTime::uiUnit()), MTime::uiUnit()));
-    for (NodeObj* node : std::vector<NodeObj*>(host.nodes)) {
-        if (node->type->name != "time") continue;
+    for (NodeObj* node : std::vector<NodeObj*>(host.timeNodes)) {
         if (const AttributeObj* outTime = node->findAttribute("outTime"))
             assign(*node, *outTime, value);
     }

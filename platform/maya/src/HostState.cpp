@@ -57,18 +57,31 @@ AttributeObj* NodeType::findAttribute(const std::string& attributeName) const {
     return nullptr;
 }
 
-Slot& NodeObj::slot(const AttributeObj& attribute) {
-    Slot* slot = nullptr;
+Slot& NodeObj::storage(const AttributeObj& attribute) {
     if (attribute.owner == type) {
         if (slots.size() < type->attributes.size()) slots.resize(type->attributes.size());
-        slot = &slots[attribute.slotIndex];
-    } else if (attribute.dynamicOwner == this) {
+        return slots[attribute.slotIndex];
+    }
+    if (attribute.dynamicOwner == this) {
         if (dynamicSlots.size() < dynamicAttributes.size())
             dynamicSlots.resize(dynamicAttributes.size());
-        slot = &dynamicSlots[attribute.slotIndex];
-    } else {
-        slot = &strays[&attribute];
+        return dynamicSlots[attribute.slotIndex];
     }
+    return strays[&attribute];
+}
+
+const Slot* NodeObj::laidOut(const AttributeObj& attribute) const {
+    if (attribute.owner == type)
+        return attribute.slotIndex < slots.size() ? &slots[attribute.slotIndex] : nullptr;
+    if (attribute.dynamicOwner == this)
+        return attribute.slotIndex < dynamicSlots.size() ? &dynamicSlots[attribute.slotIndex]
+                                                         : nullptr;
+    const auto found = strays.find(&attribute);
+    return found == strays.end() ? nullptr : &found->second;
+}
+
+Slot& NodeObj::slot(const AttributeObj& attribute) {
+    Slot* slot = &storage(attribute);
     if (!slot->made) {
         slot->made = true;
         slot->value = attribute.defaultValue;
@@ -113,6 +126,8 @@ void destroyNode(NodeObj* node) {
     else
         host.nodes.erase(std::remove(host.nodes.begin(), host.nodes.end(), node), host.nodes.end());
     host.nodesByName.erase(node->name);
+    auto& timeNodes = host.timeNodes;
+    timeNodes.erase(std::remove(timeNodes.begin(), timeNodes.end(), node), timeNodes.end());
     delete node->ui;  // the viewport object goes before the shape it refers to
     node->ui = nullptr;
     MPxNode* user = node->user;

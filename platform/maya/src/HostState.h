@@ -20,26 +20,21 @@ struct Connection {
     const AttributeObj* sourceAttribute;
     NodeObj* destinationNode;
     const AttributeObj* destinationAttribute;
-};
-
-// One plug, as the connection index looks it up.
-using PlugKey = std::pair<const NodeObj*, const AttributeObj*>;
-struct PlugKeyHash {
-    size_t operator()(const PlugKey& key) const {
-        return std::hash<const void*>()(key.first) * 31 + std::hash<const void*>()(key.second);
-    }
+    ConnectionPosition nextFromSource =
+        kNoConnection;  // the next connection made from the same plug
 };
 
 struct HostState {
     std::vector<std::unique_ptr<NodeType>> nodeTypes;
     std::vector<DataType> dataTypes;
-    std::vector<NodeObj*> nodes;      // each holds one reference
+    std::vector<NodeObj*> nodes;  // each holds one reference
+    // The nodes of type "time", in the order made: those the current time is set on, found
+    // without walking the whole scene at each time step.
+    std::vector<NodeObj*> timeNodes;
     std::vector<PluginObj*> plugins;  // each holds one reference
     std::vector<Connection> connections;
-    // Positions in `connections` by plug, so that lookups do not grow with the scene; rebuilt
-    // on the next lookup after a connection is removed.
-    std::unordered_map<PlugKey, size_t, PlugKeyHash> incomingIndex;
-    std::unordered_map<PlugKey, std::vector<size_t>, PlugKeyHash> outgoingIndex;
+    // The plugs' slots hold positions in `connections`; removing a connection moves the ones
+    // after it, so the positions are rebuilt on the next lookup.
     bool connectionIndexStale = false;
     std::unordered_map<std::string, NodeObj*> nodesByName;
     std::vector<Message> messages;

@@ -3,6 +3,7 @@
 #include <maya/MPxSurfaceShapeUI.h>
 #include <mayahost/Host.h>
 
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -13,11 +14,22 @@
 namespace mayahost {
 namespace detail {
 
+// A place in the host's connection list; 32 bits keep the slots of large scenes compact.
+using ConnectionPosition = std::uint32_t;
+// Marks the end of a chain of connection positions, or a plug without one.
+constexpr ConnectionPosition kNoConnection = UINT32_MAX;
+
 struct Slot {
     Value value;
     bool dirty = false;
     bool made = false;  // holds the attribute's default, or a value set since
     bool evaluating = false;
+    // Positions in the host's connection list, kept beside the value so that following a
+    // connection touches only the nodes at its ends. The connections from this plug chain on
+    // through Connection::nextFromSource, in the order they were made.
+    ConnectionPosition incoming = kNoConnection;
+    ConnectionPosition firstOutgoing = kNoConnection;
+    ConnectionPosition lastOutgoing = kNoConnection;
 };
 
 struct NodeObj : Object {
@@ -36,7 +48,12 @@ struct NodeObj : Object {
     std::vector<Slot> dynamicSlots;
     std::unordered_map<const AttributeObj*, Slot> strays;  // attributes of no place here
 
+    // The attribute's slot, holding its default when first used.
     Slot& slot(const AttributeObj& attribute);
+    // The same slot without making its value, for the connection positions alone.
+    Slot& storage(const AttributeObj& attribute);
+    // The slot if one has been laid out for the attribute; null before.
+    const Slot* laidOut(const AttributeObj& attribute) const;
     // Static attributes of the type first, then the node's dynamic ones.
     AttributeObj* findAttribute(const std::string& name) const;
     bool has(const AttributeObj& attribute) const;

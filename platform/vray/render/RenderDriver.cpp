@@ -151,6 +151,7 @@ std::vector<RenderDriver::Parameter> RenderDriver::parametersOf(VUtils::VRayPlug
     std::vector<Parameter> parameters;
     VUtils::VRayParameterList* list = plugin->getParameterList();
     if (!list) return parameters;
+    parameters.reserve(static_cast<size_t>(list->getNumParams()));
     for (int i = 0; i < list->getNumParams(); ++i) {
         VUtils::VRayPluginParameter* parameter = list->getParam(i);
         auto* animation = static_cast<VUtils::AnimatedParameterInterface*>(
@@ -192,6 +193,7 @@ RenderDriver::Sampling RenderDriver::beginSampling(Source& source,
     instance.node = source.name;
     instance.instance = source.request->currentNumber();
     instance.created = source.request->madeNewInstance();
+    instance.parameters.reserve(sampling.parameters.size());
     for (const Parameter& p : sampling.parameters) {
         instance.parameters.push_back(
             RecordedParameter{p.parameter->getName(), p.animation != nullptr, {}});

@@ -99,26 +99,28 @@ bool MPlug::connectedTo(MPlugArray& array, bool asDst, bool asSrc, MStatus* Retu
     Resolved plug = resolve(fNode, fAttribute);
     set(ReturnStatus, plug ? MStatus::kSuccess : MStatus::kInvalidParameter);
     if (!plug) return false;
-    // (position in the connection list, as source), so the answer keeps the order connections
-    // were made in.
-    std::vector<std::pair<size_t, bool>> found;
+    // The answer keeps the order the connections were made in: the connection into the plug
+    // goes among those from it by its position in the connection list.
     const std::vector<Connection>& connections = state().connections;
-    if (asDst)
-        if (const Connection* in = incomingConnection(*plug.node, *plug.attribute))
-            found.emplace_back(static_cast<size_t>(in - connections.data()), false);
-    if (asSrc)
-        for (size_t at : outgoingConnections(*plug.node, *plug.attribute))
-            found.emplace_back(at, true);
-    std::sort(found.begin(), found.end());
-    for (const auto& entry : found) {
-        const Connection& c = connections[entry.first];
-        if (entry.second)
-            array.append(MPlug(Access::handle(c.destinationNode),
-                               Access::handle(const_cast<AttributeObj*>(c.destinationAttribute))));
-        else
-            array.append(MPlug(Access::handle(c.sourceNode),
-                               Access::handle(const_cast<AttributeObj*>(c.sourceAttribute))));
+    const Connection* in = asDst ? incomingConnection(*plug.node, *plug.attribute) : nullptr;
+    const auto inAt = in ? static_cast<ConnectionPosition>(in - connections.data()) : kNoConnection;
+    const auto appendSource = [&] {
+        array.append(MPlug(Access::handle(in->sourceNode),
+                           Access::handle(const_cast<AttributeObj*>(in->sourceAttribute))));
+    };
+    const ConnectionPosition firstOut =
+        asSrc ? firstOutgoingConnection(*plug.node, *plug.attribute) : kNoConnection;
+    for (ConnectionPosition at = firstOut; at != kNoConnection;
+         at = connections[at].nextFromSource) {
+        if (in && inAt < at) {
+            appendSource();
+            in = nullptr;
+        }
+        const Connection& c = connections[at];
+        array.append(MPlug(Access::handle(c.destinationNode),
+                           Access::handle(const_cast<AttributeObj*>(c.destinationAttribute))));
     }
+    if (in) appendSource();
     return array.length() > 0;
 }
 
