@@ -49,13 +49,21 @@ TEST_F(RenderDriver, RendersEveryFrameAndSampleThroughTheBridge) {
     EXPECT_FALSE(second.created);
 
     // Frame 2 samples 1.5, 2, 2.5; clearing at 1.5 keeps frame 1's last sample (1.5).
-    const auto& samples = named(second, "sampleGenerator").samples;
-    ASSERT_EQ(samples.size(), 3u);
-    EXPECT_EQ(samples.back().value.list, (std::vector<float>{1.5f, 1.5f, 2.0f, 2.5f}));
-    const auto& files = named(second, "file").samples;
-    ASSERT_EQ(files.size(), 3u);
-    EXPECT_EQ(files[0].value.text, "hair.0001.xvc");
-    EXPECT_EQ(files[2].value.text, "hair.0002.xvc");
+    const vrayrender::RecordedParameter& samples = named(second, "sampleGenerator");
+    ASSERT_EQ(samples.values.size(), 3u);
+    EXPECT_EQ(samples.values.back().list, (std::vector<float>{1.5f, 1.5f, 2.0f, 2.5f}));
+    // Once the file changes, every sample of the frame is spelled out.
+    const vrayrender::RecordedParameter& files = named(second, "file");
+    ASSERT_EQ(files.values.size(), 3u);
+    EXPECT_EQ(files.values[0].text, "hair.0001.xvc");
+    EXPECT_EQ(files.values[1].text, "hair.0002.xvc");
+    EXPECT_EQ(files.values[2].text, "hair.0002.xvc");
+    // Every other parameter holds its value through the frame and keeps just that one.
+    for (const vrayrender::RecordedParameter& parameter : second.parameters) {
+        if (parameter.name == "sampleGenerator" || parameter.name == "file") continue;
+        EXPECT_TRUE(parameter.heldThroughFrame()) << parameter.name;
+        EXPECT_EQ(&parameter.valueAt(2), &parameter.values.front()) << parameter.name;
+    }
     // The render's end clears everything on the fur node.
     EXPECT_EQ(furCalls().back().operation, FurOperation::RemoveRenderSamples);
 }

@@ -91,6 +91,21 @@ TEST_F(RenderCliTest, DemoRendersToTheGoldenSceneOnStandardOutput) {
         kDemoWarnings);
 }
 
+// With three samples the mane's cache file first changes at the last one: the earlier two keep
+// the value they held.
+TEST_F(RenderCliTest, AValueThatChangesLateIsWrittenForEverySample) {
+    const ToolResult result =
+        run({"-s", "1", "-e", "1", "-mb", "on", "-mbSamples", "3", "-o", "-", "examples/demo.ma"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_NE(result.out.find("  file=interpolate("
+                              "(1, \"/studio/cache/mane/furManeShape.0001.xvc\"), "
+                              "(1.5, \"/studio/cache/mane/furManeShape.0001.xvc\"), "
+                              "(2, \"/studio/cache/mane/furManeShape.0002.xvc\"));\n"),
+              std::string::npos)
+        << result.out;
+    EXPECT_NE(result.out.find("  density=4;\n"), std::string::npos);
+}
+
 TEST_F(RenderCliTest, WritesTheSameSceneToAFileAndNothingElse) {
     const fs::path output = directory / "demo.vrscene";
     const ToolResult result = run(

@@ -119,22 +119,22 @@ TEST(VrsceneValueTest, StringsKeepToOneLineAndReadBack) {
 }
 
 vrayrender::RecordedParameter parameter(const std::string& name,
-                                        std::vector<vrayrender::RecordedSample> samples) {
-    return vrayrender::RecordedParameter{name, false, std::move(samples)};
+                                        std::vector<RecordedValue> values) {
+    return vrayrender::RecordedParameter{name, false, std::move(values)};
 }
 
 vrayrender::RenderRecord twoFrames() {
     vrayrender::RecordedInstance first{"bridgeA", 1, true, {}};
+    // density held through the frame; minROI spelled out per sample but never changed.
     first.parameters = {
-        parameter("sampleGenerator", {{0.75, list({0.75f})}, {1.25, list({0.75f, 1.25f})}}),
-        parameter("density", {{0.75, real(2.5f)}, {1.25, real(2.5f)}}),
-        parameter("file", {{0.75, text("a.0000.xvc")}, {1.25, text("a.0001.xvc")}}),
-        parameter("broken", {{0.75, value(Kind::None)}, {1.25, value(Kind::None)}}),
-        parameter("minROI",
-                  {{0.75, triple(Kind::Vector, 0, 1, 2)}, {1.25, triple(Kind::Vector, 0, 1, 2)}}),
+        parameter("sampleGenerator", {list({0.75f}), list({0.75f, 1.25f})}),
+        parameter("density", {real(2.5f)}),
+        parameter("file", {text("a.0000.xvc"), text("a.0001.xvc")}),
+        parameter("broken", {value(Kind::None)}),
+        parameter("minROI", {triple(Kind::Vector, 0, 1, 2), triple(Kind::Vector, 0, 1, 2)}),
     };
     vrayrender::RecordedInstance second{
-        "ns:bridgeB", 2, true, {parameter("verbosity", {{0.75, integer(2)}})}};
+        "ns:bridgeB", 2, true, {parameter("verbosity", {integer(2)})}};
     vrayrender::RecordedFrame frame1{1.0, {0.75, 1.25}, {first, second}};
     vrayrender::RecordedFrame frame2{2.0, {1.75, 2.25}, {}};
     vrayrender::RenderRecord record;

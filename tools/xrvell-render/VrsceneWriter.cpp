@@ -11,7 +11,7 @@ namespace {
 using vrayrender::RecordedFrame;
 using vrayrender::RecordedInstance;
 using vrayrender::RecordedParameter;
-using vrayrender::RecordedSample;
+using vrayrender::RecordedValue;
 
 // The plugin type the bridge nodes create.
 const char* const kPluginType = "xrVellVRay";
@@ -22,9 +22,9 @@ std::string doubleText(double value) {
     return text;
 }
 
-bool changesWithinFrame(const std::vector<RecordedSample>& samples) {
-    for (const RecordedSample& sample : samples)
-        if (sample.value != samples.front().value) return true;
+bool changesWithinFrame(const std::vector<RecordedValue>& values) {
+    for (const RecordedValue& value : values)
+        if (value != values.front()) return true;
     return false;
 }
 
@@ -62,22 +62,26 @@ void VrsceneWriter::writeFrame(const RecordedFrame& frame, std::string& out) con
     for (size_t i = 0; i < frame.sampleTimes.size(); ++i)
         out += (i ? ", " : "") + doubleText(frame.sampleTimes[i]);
     out += '\n';
-    for (const RecordedInstance& instance : frame.instances) writeInstance(instance, out);
+    for (const RecordedInstance& instance : frame.instances)
+        writeInstance(instance, frame.sampleTimes, out);
 }
 
-void VrsceneWriter::writeInstance(const RecordedInstance& instance, std::string& out) const {
+void VrsceneWriter::writeInstance(const RecordedInstance& instance,
+                                  const std::vector<double>& times, std::string& out) const {
     out += kPluginType;
     out += ' ';
     out += instance.node;
     out += " {\n";
-    for (const RecordedParameter& parameter : instance.parameters) writeParameter(parameter, out);
+    for (const RecordedParameter& parameter : instance.parameters)
+        writeParameter(parameter, times, out);
     out += "}\n";
 }
 
 // Appends piece by piece: a large scene writes millions of these.
-void VrsceneWriter::writeParameter(const RecordedParameter& parameter, std::string& out) const {
-    const std::vector<RecordedSample>& samples = parameter.samples;
-    if (samples.empty() || samples.front().value.kind == vrayrender::RecordedValue::Kind::None) {
+void VrsceneWriter::writeParameter(const RecordedParameter& parameter,
+                                   const std::vector<double>& times, std::string& out) const {
+    const std::vector<RecordedValue>& values = parameter.values;
+    if (values.empty() || values.front().kind == RecordedValue::Kind::None) {
         out += "  // ";
         out += parameter.name;
         out += ": no value the renderer can read\n";
@@ -86,15 +90,15 @@ void VrsceneWriter::writeParameter(const RecordedParameter& parameter, std::stri
     out += "  ";
     out += parameter.name;
     out += '=';
-    if (!changesWithinFrame(samples)) {
-        VrsceneValue::append(samples.front().value, out);
+    if (!changesWithinFrame(values)) {
+        VrsceneValue::append(values.front(), out);
     } else {
         out += "interpolate(";
-        for (size_t i = 0; i < samples.size(); ++i) {
+        for (size_t i = 0; i < times.size(); ++i) {
             out += i ? ", (" : "(";
-            VrsceneValue::appendDouble(samples[i].time, out);
+            VrsceneValue::appendDouble(times[i], out);
             out += ", ";
-            VrsceneValue::append(samples[i].value, out);
+            VrsceneValue::append(parameter.valueAt(i), out);
             out += ')';
         }
         out += ')';

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <vector>
 
 #include "RenderRecord.h"
 #include "RenderSettings.h"
@@ -19,8 +20,10 @@ public:
     void writeFrame(const vrayrender::RecordedFrame& frame, std::string& out) const;
 
 private:
-    void writeInstance(const vrayrender::RecordedInstance& instance, std::string& out) const;
-    void writeParameter(const vrayrender::RecordedParameter& parameter, std::string& out) const;
+    void writeInstance(const vrayrender::RecordedInstance& instance,
+                       const std::vector<double>& times, std::string& out) const;
+    void writeParameter(const vrayrender::RecordedParameter& parameter,
+                        const std::vector<double>& times, std::string& out) const;
 
     std::string scene;
     vrayrender::RenderSettings settings;

@@ -27,6 +27,18 @@ bool isGeometrySource(const MObject& node) {
     return !type.isNull() && std::strcmp(type.asString().asChar(), "VRayGeometry") == 0;
 }
 
+// Keeps a single value while the parameter holds it; the first change spells out every sample.
+void record(RecordedParameter& parameter, RecordedValue value, size_t index, size_t samples) {
+    std::vector<RecordedValue>& values = parameter.values;
+    if (index > 0 && values.size() == 1) {
+        if (value == values.front()) return;
+        const RecordedValue held = values.front();
+        values.reserve(samples);
+        values.resize(index, held);
+    }
+    values.push_back(std::move(value));
+}
+
 }  // namespace
 
 std::vector<double> sampleTimes(double frame, const MotionBlur& blur) {
@@ -173,9 +185,10 @@ RecordedFrame RenderDriver::renderFrame(double frame, const MotionBlur& blur) {
             sampling.push_back(beginSampling(source, recorded.sampleTimes));
     // The scene time moves once per sample for every instance, as in a renderer; moving it per
     // instance would dirty every node's time once per instance.
-    for (double time : recorded.sampleTimes) {
-        mayahost::setCurrentTime(MTime(time, MTime::uiUnit()));
-        for (Sampling& instance : sampling) sample(instance, time);
+    const std::vector<double>& times = recorded.sampleTimes;
+    for (size_t index = 0; index < times.size(); ++index) {
+        mayahost::setCurrentTime(MTime(times[index], MTime::uiUnit()));
+        for (Sampling& instance : sampling) sample(instance, times, index);
     }
     for (Sampling& instance : sampling) {
         recorded.instances.push_back(std::move(instance.record));
@@ -197,24 +210,24 @@ RenderDriver::Sampling RenderDriver::beginSampling(Source& source,
     for (const Parameter& p : sampling.parameters) {
         instance.parameters.push_back(
             RecordedParameter{p.parameter->getName(), p.animation != nullptr, {}});
-        instance.parameters.back().samples.reserve(times.size());
         if (p.animation) p.animation->clearKeyFrames(times.front(), 0);
     }
     return sampling;
 }
 
-void RenderDriver::sample(Sampling& sampling, double time) {
+void RenderDriver::sample(Sampling& sampling, const std::vector<double>& times, size_t index) {
+    const double time = times[index];
     const std::vector<Parameter>& parameters = sampling.parameters;
     std::vector<RecordedParameter>& recorded = sampling.record.parameters;
     for (size_t i = 0; i < parameters.size(); ++i) {
         if (!parameters[i].animation) continue;
         parameters[i].animation->createKeyFrame(time, 0);
         // The value of an animated parameter belongs to the keyframe just made.
-        recorded[i].samples.push_back({time, readParameter(*parameters[i].parameter, time)});
+        record(recorded[i], readParameter(*parameters[i].parameter, time), index, times.size());
     }
     for (size_t i = 0; i < parameters.size(); ++i) {
         if (parameters[i].animation) continue;
-        recorded[i].samples.push_back({time, readParameter(*parameters[i].parameter, time)});
+        record(recorded[i], readParameter(*parameters[i].parameter, time), index, times.size());
     }
 }
 

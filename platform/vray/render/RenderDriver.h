@@ -50,7 +50,7 @@ private:
 
     RecordedFrame renderFrame(double frame, const MotionBlur& blur);
     Sampling beginSampling(Source& source, const std::vector<double>& times);
-    void sample(Sampling& sampling, double time);
+    void sample(Sampling& sampling, const std::vector<double>& times, size_t index);
     std::vector<Parameter> parametersOf(VUtils::VRayPlugin* plugin) const;
     void finishRender();
 

@@ -1,4 +1,5 @@
 #pragma once
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -19,15 +20,17 @@ struct RecordedValue {
     bool operator!=(const RecordedValue& other) const { return !(*this == other); }
 };
 
-struct RecordedSample {
-    double time;
-    RecordedValue value;
-};
-
 struct RecordedParameter {
     std::string name;
     bool animated = false;
-    std::vector<RecordedSample> samples;  // one per geometry sample time of the frame
+    // The value at each of the frame's geometry sample times, or a single value when it held
+    // through the frame: most parameters do, and a large scene records thousands of them a frame.
+    std::vector<RecordedValue> values;
+
+    bool heldThroughFrame() const { return values.size() == 1; }
+    const RecordedValue& valueAt(size_t sample) const {
+        return heldThroughFrame() ? values.front() : values.at(sample);
+    }
 };
 
 struct RecordedInstance {
