@@ -20,8 +20,8 @@ struct Connection {
     const AttributeObj* sourceAttribute;
     NodeObj* destinationNode;
     const AttributeObj* destinationAttribute;
-    ConnectionPosition nextFromSource =
-        kNoConnection;  // the next connection made from the same plug
+    // The next connection made from the same plug.
+    ConnectionPosition nextFromSource = kNoConnection;
 };
 
 struct HostState {
