@@ -50,19 +50,19 @@ TEST_F(RenderDriver, RendersEveryFrameAndSampleThroughTheBridge) {
 
     // Frame 2 samples 1.5, 2, 2.5; clearing at 1.5 keeps frame 1's last sample (1.5).
     const vrayrender::RecordedParameter& samples = named(second, "sampleGenerator");
-    ASSERT_EQ(samples.values.size(), 3u);
-    EXPECT_EQ(samples.values.back().list, (std::vector<float>{1.5f, 1.5f, 2.0f, 2.5f}));
+    ASSERT_EQ(samples.later.size(), 2u);
+    EXPECT_EQ(samples.valueAt(2).list, (std::vector<float>{1.5f, 1.5f, 2.0f, 2.5f}));
     // Once the file changes, every sample of the frame is spelled out.
     const vrayrender::RecordedParameter& files = named(second, "file");
-    ASSERT_EQ(files.values.size(), 3u);
-    EXPECT_EQ(files.values[0].text, "hair.0001.xvc");
-    EXPECT_EQ(files.values[1].text, "hair.0002.xvc");
-    EXPECT_EQ(files.values[2].text, "hair.0002.xvc");
+    ASSERT_EQ(files.later.size(), 2u);
+    EXPECT_EQ(files.valueAt(0).text, "hair.0001.xvc");
+    EXPECT_EQ(files.valueAt(1).text, "hair.0002.xvc");
+    EXPECT_EQ(files.valueAt(2).text, "hair.0002.xvc");
     // Every other parameter holds its value through the frame and keeps just that one.
     for (const vrayrender::RecordedParameter& parameter : second.parameters) {
         if (parameter.name == "sampleGenerator" || parameter.name == "file") continue;
         EXPECT_TRUE(parameter.heldThroughFrame()) << parameter.name;
-        EXPECT_EQ(&parameter.valueAt(2), &parameter.values.front()) << parameter.name;
+        EXPECT_EQ(&parameter.valueAt(2), &parameter.first) << parameter.name;
     }
     // The render's end clears everything on the fur node.
     EXPECT_EQ(furCalls().back().operation, FurOperation::RemoveRenderSamples);

@@ -120,7 +120,8 @@ TEST(VrsceneValueTest, StringsKeepToOneLineAndReadBack) {
 
 vrayrender::RecordedParameter parameter(const std::string& name,
                                         std::vector<RecordedValue> values) {
-    return vrayrender::RecordedParameter{name, false, std::move(values)};
+    return vrayrender::RecordedParameter{
+        name, false, values.front(), {values.begin() + 1, values.end()}};
 }
 
 vrayrender::RenderRecord twoFrames() {

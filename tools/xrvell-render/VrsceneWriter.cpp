@@ -22,9 +22,9 @@ std::string doubleText(double value) {
     return text;
 }
 
-bool changesWithinFrame(const std::vector<RecordedValue>& values) {
-    for (const RecordedValue& value : values)
-        if (value != values.front()) return true;
+bool changesWithinFrame(const RecordedParameter& parameter, size_t samples) {
+    for (size_t i = 1; i < samples && !parameter.heldThroughFrame(); ++i)
+        if (parameter.valueAt(i) != parameter.first) return true;
     return false;
 }
 
@@ -80,8 +80,7 @@ void VrsceneWriter::writeInstance(const RecordedInstance& instance,
 // Appends piece by piece: a large scene writes millions of these.
 void VrsceneWriter::writeParameter(const RecordedParameter& parameter,
                                    const std::vector<double>& times, std::string& out) const {
-    const std::vector<RecordedValue>& values = parameter.values;
-    if (values.empty() || values.front().kind == RecordedValue::Kind::None) {
+    if (parameter.first.kind == RecordedValue::Kind::None) {
         out += "  // ";
         out += parameter.name;
         out += ": no value the renderer can read\n";
@@ -90,8 +89,8 @@ void VrsceneWriter::writeParameter(const RecordedParameter& parameter,
     out += "  ";
     out += parameter.name;
     out += '=';
-    if (!changesWithinFrame(values)) {
-        VrsceneValue::append(values.front(), out);
+    if (!changesWithinFrame(parameter, times.size())) {
+        VrsceneValue::append(parameter.first, out);
     } else {
         out += "interpolate(";
         for (size_t i = 0; i < times.size(); ++i) {

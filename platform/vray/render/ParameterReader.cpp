@@ -12,6 +12,18 @@ bool RecordedValue::operator==(const RecordedValue& o) const {
 
 RecordedValue readParameter(VUtils::VRayPluginParameter& parameter, double time) {
     RecordedValue value;
+    readParameter(parameter, time, value);
+    return value;
+}
+
+void readParameter(VUtils::VRayPluginParameter& parameter, double time, RecordedValue& value) {
+    value.kind = RecordedValue::Kind::None;
+    value.intValue = 0;
+    value.number = 0.0;
+    value.vector[0] = value.vector[1] = value.vector[2] = 0.0f;
+    value.isNull = false;
+    value.text.clear();
+    value.list.clear();
     switch (parameter.getType(0, time)) {
         case VUtils::paramTypeInt:
             value.kind = RecordedValue::Kind::Int;
@@ -21,7 +33,7 @@ RecordedValue readParameter(VUtils::VRayPluginParameter& parameter, double time)
             if (parameter.getCount(time) >= 0) {
                 value.kind = RecordedValue::Kind::FloatList;
                 const VUtils::PtrArray<float> list = parameter.getFloatList(time);
-                for (int i = 0; i < list.length; ++i) value.list.push_back(list.ptr[i]);
+                if (list.length > 0) value.list.assign(list.ptr, list.ptr + list.length);
             } else {
                 value.kind = RecordedValue::Kind::Float;
                 value.number = parameter.getFloat(0, time);
@@ -57,7 +69,6 @@ RecordedValue readParameter(VUtils::VRayPluginParameter& parameter, double time)
         default:
             break;
     }
-    return value;
 }
 
 }  // namespace vrayrender

@@ -28,15 +28,19 @@ bool isGeometrySource(const MObject& node) {
 }
 
 // Keeps a single value while the parameter holds it; the first change spells out every sample.
-void record(RecordedParameter& parameter, RecordedValue value, size_t index, size_t samples) {
-    std::vector<RecordedValue>& values = parameter.values;
-    if (index > 0 && values.size() == 1) {
-        if (value == values.front()) return;
-        const RecordedValue held = values.front();
-        values.reserve(samples);
-        values.resize(index, held);
+void record(RecordedParameter& parameter, const RecordedValue& value, size_t index,
+            size_t samples) {
+    if (index == 0) {
+        parameter.first = value;
+        return;
     }
-    values.push_back(std::move(value));
+    std::vector<RecordedValue>& later = parameter.later;
+    if (later.empty()) {
+        if (value == parameter.first) return;
+        later.reserve(samples - 1);
+        later.resize(index - 1, parameter.first);
+    }
+    later.push_back(value);
 }
 
 }  // namespace
@@ -209,7 +213,7 @@ RenderDriver::Sampling RenderDriver::beginSampling(Source& source,
     instance.parameters.reserve(sampling.parameters.size());
     for (const Parameter& p : sampling.parameters) {
         instance.parameters.push_back(
-            RecordedParameter{p.parameter->getName(), p.animation != nullptr, {}});
+            RecordedParameter{p.parameter->getName(), p.animation != nullptr, {}, {}});
         if (p.animation) p.animation->clearKeyFrames(times.front(), 0);
     }
     return sampling;
@@ -223,11 +227,13 @@ void RenderDriver::sample(Sampling& sampling, const std::vector<double>& times, 
         if (!parameters[i].animation) continue;
         parameters[i].animation->createKeyFrame(time, 0);
         // The value of an animated parameter belongs to the keyframe just made.
-        record(recorded[i], readParameter(*parameters[i].parameter, time), index, times.size());
+        readParameter(*parameters[i].parameter, time, reading);
+        record(recorded[i], reading, index, times.size());
     }
     for (size_t i = 0; i < parameters.size(); ++i) {
         if (parameters[i].animation) continue;
-        record(recorded[i], readParameter(*parameters[i].parameter, time), index, times.size());
+        readParameter(*parameters[i].parameter, time, reading);
+        record(recorded[i], reading, index, times.size());
     }
 }
 

@@ -59,6 +59,7 @@ private:
     std::vector<VUtils::VRayPlugin*> rendered;  // every instance driven so far, in order
     std::unordered_set<VUtils::VRayPlugin*> renderedSet;
     int instanceCounter = 0;
+    RecordedValue reading;  // each sample's value before it is kept, its storage reused
 };
 
 }  // namespace vrayrender

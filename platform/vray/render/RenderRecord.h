@@ -23,13 +23,15 @@ struct RecordedValue {
 struct RecordedParameter {
     std::string name;
     bool animated = false;
-    // The value at each of the frame's geometry sample times, or a single value when it held
-    // through the frame: most parameters do, and a large scene records thousands of them a frame.
-    std::vector<RecordedValue> values;
+    // The value at the frame's first geometry sample, and at each later one only when the value
+    // changes within the frame: most parameters hold theirs, and a large scene records thousands
+    // of them a frame.
+    RecordedValue first;
+    std::vector<RecordedValue> later;
 
-    bool heldThroughFrame() const { return values.size() == 1; }
+    bool heldThroughFrame() const { return later.empty(); }
     const RecordedValue& valueAt(size_t sample) const {
-        return heldThroughFrame() ? values.front() : values.at(sample);
+        return sample == 0 || heldThroughFrame() ? first : later.at(sample - 1);
     }
 };
 
