@@ -162,7 +162,7 @@ bool RenderJob::render(OutputFile& output) {
     const size_t total = vrayrender::frames(options.settings).size();
     ProgressLine progress(log, options.verbosity >= 1 && isatty(fileno(log)));
     vrayrender::RenderSettings settings = options.settings;
-    settings.frameDone = [&](vrayrender::RecordedFrame&& frame) {
+    settings.frameDone = [&](const vrayrender::RecordedFrame& frame) {
         writer.writeFrame(frame, pending);
         frameDone(frame);
         progress.update(framesDone, total);

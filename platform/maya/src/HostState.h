@@ -68,6 +68,7 @@ template <class Predicate>
 void destroyNodesWhere(Predicate predicate) {
     // Last made first; the handles keep each node's memory while a parent may take it down.
     std::vector<MObject> doomed;
+    doomed.reserve(state().nodes.size());
     for (NodeObj* node : state().nodes)
         if (predicate(*node)) doomed.push_back(Access::handle(node));
     for (auto it = doomed.rbegin(); it != doomed.rend(); ++it)

@@ -9,6 +9,7 @@ using namespace detail;
 
 std::vector<MObject> nodes() {
     std::vector<MObject> all;
+    all.reserve(state().nodes.size());
     for (NodeObj* node : state().nodes) all.push_back(Access::handle(node));
     return all;
 }

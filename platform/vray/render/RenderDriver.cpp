@@ -135,10 +135,10 @@ RenderRecord RenderDriver::render(const RenderSettings& settings) {
     findSources(settings.reuseInstances);
     record.geometrySources = static_cast<int>(sources.size());
     for (double frame : frames(settings)) {
-        RecordedFrame done = renderFrame(frame, settings.motionBlur);
+        const RecordedFrame& done = renderFrame(frame, settings.motionBlur);
         if (!settings.frameDone)
-            record.frames.push_back(std::move(done));
-        else if (!settings.frameDone(std::move(done)))
+            record.frames.push_back(done);
+        else if (!settings.frameDone(done))
             break;
     }
     finishRender();
@@ -163,10 +163,11 @@ void RenderDriver::translate(Source& source) {
     mayahost::findPlug(source.node, "vrayGeomResult").asInt();
 }
 
-std::vector<RenderDriver::Parameter> RenderDriver::parametersOf(VUtils::VRayPlugin* plugin) const {
-    std::vector<Parameter> parameters;
+void RenderDriver::listParameters(VUtils::VRayPlugin* plugin,
+                                  std::vector<Parameter>& parameters) const {
+    parameters.clear();
     VUtils::VRayParameterList* list = plugin->getParameterList();
-    if (!list) return parameters;
+    if (!list) return;
     parameters.reserve(static_cast<size_t>(list->getNumParams()));
     for (int i = 0; i < list->getNumParams(); ++i) {
         VUtils::VRayPluginParameter* parameter = list->getParam(i);
@@ -174,55 +175,62 @@ std::vector<RenderDriver::Parameter> RenderDriver::parametersOf(VUtils::VRayPlug
             parameter->newInterface(EXT_ANIMATEDPARAM));
         parameters.push_back(Parameter{parameter, animation});
     }
-    return parameters;
 }
 
-RecordedFrame RenderDriver::renderFrame(double frame, const MotionBlur& blur) {
-    RecordedFrame recorded;
-    recorded.frame = frame;
-    recorded.sampleTimes = sampleTimes(frame, blur);
+// The frame's record and the per-instance lists are kept from frame to frame and filled in place:
+// a large scene would otherwise allocate and free thousands of them at every frame.
+const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& blur) {
+    current.frame = frame;
+    current.sampleTimes = sampleTimes(frame, blur);
     mayahost::setCurrentTime(MTime(frame, MTime::uiUnit()));
     for (Source& source : sources) translate(source);
-    std::vector<Sampling> sampling;
+    size_t count = 0;
     for (Source& source : sources)
-        if (source.request->current())
-            sampling.push_back(beginSampling(source, recorded.sampleTimes));
+        if (source.request->current()) beginSampling(source, count++, current.sampleTimes);
+    sampling.resize(count);
+    current.instances.resize(count);
     // The scene time moves once per sample for every instance, as in a renderer; moving it per
     // instance would dirty every node's time once per instance.
-    const std::vector<double>& times = recorded.sampleTimes;
+    const std::vector<double>& times = current.sampleTimes;
     for (size_t index = 0; index < times.size(); ++index) {
         mayahost::setCurrentTime(MTime(times[index], MTime::uiUnit()));
-        for (Sampling& instance : sampling) sample(instance, times, index);
+        for (size_t i = 0; i < count; ++i) sample(sampling[i], current.instances[i], times, index);
     }
-    for (Sampling& instance : sampling) {
-        recorded.instances.push_back(std::move(instance.record));
+    for (const Sampling& instance : sampling)
         instance.source->request->current()->frameBegin(frame);
-    }
-    return recorded;
+    return current;
 }
 
-RenderDriver::Sampling RenderDriver::beginSampling(Source& source,
-                                                   const std::vector<double>& times) {
+void RenderDriver::beginSampling(Source& source, size_t position,
+                                 const std::vector<double>& times) {
     VUtils::VRayPlugin* plugin = source.request->current();
     if (renderedSet.insert(plugin).second) rendered.push_back(plugin);
-    Sampling sampling{&source, parametersOf(plugin), {}};
-    RecordedInstance& instance = sampling.record;
+    if (position == sampling.size()) sampling.emplace_back();
+    if (position == current.instances.size()) current.instances.emplace_back();
+    Sampling& instanceSampling = sampling[position];
+    instanceSampling.source = &source;
+    listParameters(plugin, instanceSampling.parameters);
+    RecordedInstance& instance = current.instances[position];
     instance.node = source.name;
     instance.instance = source.request->currentNumber();
     instance.created = source.request->madeNewInstance();
-    instance.parameters.reserve(sampling.parameters.size());
-    for (const Parameter& p : sampling.parameters) {
-        instance.parameters.push_back(
-            RecordedParameter{p.parameter->getName(), p.animation != nullptr, {}, {}});
+    instance.parameters.resize(instanceSampling.parameters.size());
+    for (size_t i = 0; i < instance.parameters.size(); ++i) {
+        const Parameter& p = instanceSampling.parameters[i];
+        RecordedParameter& recorded = instance.parameters[i];
+        recorded.name = p.parameter->getName();
+        recorded.animated = p.animation != nullptr;
+        recorded.first = RecordedValue();
+        recorded.later.clear();
         if (p.animation) p.animation->clearKeyFrames(times.front(), 0);
     }
-    return sampling;
 }
 
-void RenderDriver::sample(Sampling& sampling, const std::vector<double>& times, size_t index) {
+void RenderDriver::sample(const Sampling& sampling, RecordedInstance& instance,
+                          const std::vector<double>& times, size_t index) {
     const double time = times[index];
     const std::vector<Parameter>& parameters = sampling.parameters;
-    std::vector<RecordedParameter>& recorded = sampling.record.parameters;
+    std::vector<RecordedParameter>& recorded = instance.parameters;
     for (size_t i = 0; i < parameters.size(); ++i) {
         if (!parameters[i].animation) continue;
         parameters[i].animation->createKeyFrame(time, 0);
@@ -238,9 +246,12 @@ void RenderDriver::sample(Sampling& sampling, const std::vector<double>& times, 
 }
 
 void RenderDriver::finishRender() {
-    for (VUtils::VRayPlugin* plugin : rendered)
-        for (const Parameter& p : parametersOf(plugin))
+    std::vector<Parameter> parameters;
+    for (VUtils::VRayPlugin* plugin : rendered) {
+        listParameters(plugin, parameters);
+        for (const Parameter& p : parameters)
             if (p.animation) p.animation->clearKeyFrames(kEndOfRender, 0);
+    }
 }
 
 }  // namespace vrayrender

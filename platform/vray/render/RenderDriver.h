@@ -43,15 +43,15 @@ private:
     void translate(Source& source);
     // One plugin instance being sampled through a frame.
     struct Sampling {
-        Source* source;
+        Source* source = nullptr;
         std::vector<Parameter> parameters;
-        RecordedInstance record;
     };
 
-    RecordedFrame renderFrame(double frame, const MotionBlur& blur);
-    Sampling beginSampling(Source& source, const std::vector<double>& times);
-    void sample(Sampling& sampling, const std::vector<double>& times, size_t index);
-    std::vector<Parameter> parametersOf(VUtils::VRayPlugin* plugin) const;
+    const RecordedFrame& renderFrame(double frame, const MotionBlur& blur);
+    void beginSampling(Source& source, size_t position, const std::vector<double>& times);
+    void sample(const Sampling& sampling, RecordedInstance& instance,
+                const std::vector<double>& times, size_t index);
+    void listParameters(VUtils::VRayPlugin* plugin, std::vector<Parameter>& parameters) const;
     void finishRender();
 
     VUtils::PluginRegistry* registry;
@@ -59,7 +59,9 @@ private:
     std::vector<VUtils::VRayPlugin*> rendered;  // every instance driven so far, in order
     std::unordered_set<VUtils::VRayPlugin*> renderedSet;
     int instanceCounter = 0;
-    RecordedValue reading;  // each sample's value before it is kept, its storage reused
+    std::vector<Sampling> sampling;  // the instances of the frame being rendered, in order
+    RecordedFrame current;           // what they received, handed on when the frame is done
+    RecordedValue reading;           // each sample's value before it is kept, its storage reused
 };
 
 }  // namespace vrayrender

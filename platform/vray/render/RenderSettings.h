@@ -26,8 +26,8 @@ struct RenderSettings {
     bool reuseInstances = true;
     // When set, each frame is handed here as soon as it is rendered instead of being kept in the
     // record, so that a long render need not hold every frame at once. Returning false stops
-    // the render after that frame.
-    std::function<bool(RecordedFrame&&)> frameDone;
+    // the render after that frame. The frame's storage is reused for the next one.
+    std::function<bool(const RecordedFrame&)> frameDone;
 };
 
 // Why the frames of a render, or their sample times, cannot be rendered.
