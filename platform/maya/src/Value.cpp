@@ -27,12 +27,12 @@ void Value::setNumber(double value) {
     s = truncateTo<short>(value);
     c = truncateTo<char>(value);
     b = value != 0.0;
-    time = MTime(value, MTime::uiUnit());
+    timeUnit = MTime::uiUnit();
 }
 
 void Value::setTime(const MTime& value) {
     setNumber(value.value());
-    time = value;
+    timeUnit = value.unit();
 }
 
 void Value::setAddr(void* value) { addr = value; }

@@ -73,7 +73,7 @@ float& MDataHandle::asFloat() const { return valueOf(*this).f; }
 double& MDataHandle::asDouble() const { return valueOf(*this).d; }
 void*& MDataHandle::asAddr() const { return valueOf(*this).addr; }
 MString& MDataHandle::asString() const { return valueOf(*this).str; }
-MTime MDataHandle::asTime() const { return valueOf(*this).time; }
+MTime MDataHandle::asTime() const { return valueOf(*this).time(); }
 MObject MDataHandle::data() { return valueOf(*this).data; }
 
 void MDataHandle::setBool(bool value) { valueOf(*this).setNumber(value ? 1.0 : 0.0); }

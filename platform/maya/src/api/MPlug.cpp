@@ -148,7 +148,7 @@ MString MPlug::asString(MStatus* s) const {
     return readValue(fNode, fAttribute, s, [](Value& v) { return v.str; });
 }
 MTime MPlug::asMTime(MStatus* s) const {
-    return readValue(fNode, fAttribute, s, [](Value& v) { return v.time; });
+    return readValue(fNode, fAttribute, s, [](Value& v) { return v.time(); });
 }
 MObject MPlug::asMObject(MStatus* s) const {
     return readValue(fNode, fAttribute, s, [](Value& v) { return v.data; });
