@@ -120,8 +120,11 @@ TEST(VrsceneValueTest, StringsKeepToOneLineAndReadBack) {
 
 vrayrender::RecordedParameter parameter(const std::string& name,
                                         std::vector<RecordedValue> values) {
-    return vrayrender::RecordedParameter{
-        name, false, values.front(), {values.begin() + 1, values.end()}};
+    vrayrender::RecordedParameter made;
+    made.name = name;
+    made.first = values.front();
+    made.later.assign(values.begin() + 1, values.end());
+    return made;
 }
 
 vrayrender::RenderRecord twoFrames() {

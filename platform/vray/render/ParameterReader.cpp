@@ -5,9 +5,24 @@
 namespace vrayrender {
 
 bool RecordedValue::operator==(const RecordedValue& o) const {
-    return kind == o.kind && intValue == o.intValue && number == o.number &&
-           vector[0] == o.vector[0] && vector[1] == o.vector[1] && vector[2] == o.vector[2] &&
-           isNull == o.isNull && text == o.text && list == o.list;
+    if (kind != o.kind) return false;
+    switch (kind) {
+        case Kind::Int:
+            return intValue == o.intValue;
+        case Kind::Float:
+        case Kind::Double:
+            return number == o.number;
+        case Kind::Vector:
+        case Kind::Color:
+            return vector[0] == o.vector[0] && vector[1] == o.vector[1] && vector[2] == o.vector[2];
+        case Kind::String:
+            return isNull == o.isNull && text == o.text;
+        case Kind::FloatList:
+            return list == o.list;
+        case Kind::None:
+            break;
+    }
+    return true;
 }
 
 RecordedValue readParameter(VUtils::VRayPluginParameter& parameter, double time) {
