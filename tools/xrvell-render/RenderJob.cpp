@@ -20,14 +20,16 @@
 #include "RenderDriver.h"
 #include "SceneReader.h"
 #include "VisibleText.h"
+#include "VrsceneStream.h"
 #include "VrsceneWriter.h"
 #include "vray/PluginRegistry.h"
 
 namespace xrvell {
 namespace {
 
-// Frames are gathered into pieces of about this size before they are written.
-const size_t kWriteChunk = 1 << 20;
+// Frames are gathered into pieces of about this size before they are written: small enough to
+// stay in the caches while they are made.
+const size_t kWriteChunk = 256 << 10;
 
 std::string counted(size_t count, const char* singular, const char* plural) {
     return std::to_string(count) + " " + (count == 1 ? singular : plural);
@@ -149,32 +151,23 @@ bool RenderJob::resolveFrames() {
 
 bool RenderJob::render(OutputFile& output) {
     const VrsceneWriter writer(options.scene, options.settings);
-    std::string pending, reason;
-    writer.writeHeader(pending);
-    bool writable = true;
-    const auto flush = [&] {
-        if (!writable || pending.empty()) return writable;
-        outputStarted = outputStarted || output.writesInPlace();
-        writable = output.write(pending, &reason);
-        pending.clear();
-        return writable;
-    };
     const size_t total = vrayrender::frames(options.settings).size();
     ProgressLine progress(log, options.verbosity >= 1 && isatty(fileno(log)));
-    vrayrender::RenderSettings settings = options.settings;
-    settings.frameDone = [&](const vrayrender::RecordedFrame& frame) {
-        writer.writeFrame(frame, pending);
-        frameDone(frame);
-        progress.update(framesDone, total);
-        return pending.size() < kWriteChunk || flush();
-    };
+    VrsceneStream stream(
+        writer, output, kWriteChunk,
+        [&](const vrayrender::RecordedFrame& frame) {
+            frameDone(frame);
+            progress.update(framesDone, total);
+        },
+        outputStarted);
+    stream.start();
     {
         vrayrender::RenderDriver driver(&registry);
-        rendered = driver.render(settings);
+        rendered = driver.render(options.settings, &stream);
     }
     progress.finish();
     countHostMessages();
-    return flush() || writeFailed(reason);
+    return stream.flush() || writeFailed(stream.failure());
 }
 
 void RenderJob::frameDone(const vrayrender::RecordedFrame& frame) {

@@ -58,12 +58,16 @@ void VrsceneWriter::writeHeader(std::string& out) const {
 }
 
 void VrsceneWriter::writeFrame(const RecordedFrame& frame, std::string& out) const {
+    writeFrameStart(frame, out);
+    for (const RecordedInstance& instance : frame.instances)
+        writeInstance(instance, frame.sampleTimes, out);
+}
+
+void VrsceneWriter::writeFrameStart(const RecordedFrame& frame, std::string& out) const {
     out += "\n// Frame " + doubleText(frame.frame) + ": geometry samples at ";
     for (size_t i = 0; i < frame.sampleTimes.size(); ++i)
         out += (i ? ", " : "") + doubleText(frame.sampleTimes[i]);
     out += '\n';
-    for (const RecordedInstance& instance : frame.instances)
-        writeInstance(instance, frame.sampleTimes, out);
 }
 
 void VrsceneWriter::writeInstance(const RecordedInstance& instance,

@@ -15,13 +15,15 @@ public:
     VrsceneWriter(std::string sceneName, const vrayrender::RenderSettings& settings);
 
     std::string write(const vrayrender::RenderRecord& record) const;
-    // The same in parts, for frames written as they are rendered: the header, then each frame.
+    // The same in parts, for frames written as they are rendered: the header, then each frame,
+    // whole or as its comment line followed by its instances.
     void writeHeader(std::string& out) const;
     void writeFrame(const vrayrender::RecordedFrame& frame, std::string& out) const;
-
-private:
+    void writeFrameStart(const vrayrender::RecordedFrame& frame, std::string& out) const;
     void writeInstance(const vrayrender::RecordedInstance& instance,
                        const std::vector<double>& times, std::string& out) const;
+
+private:
     void writeParameter(const vrayrender::RecordedParameter& parameter,
                         const std::vector<double>& times, std::string& out) const;
 

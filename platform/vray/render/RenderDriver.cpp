@@ -130,15 +130,15 @@ RenderDriver::~RenderDriver() {
         mayahost::setAddress(mayahost::findPlug(source.node, "vrayGeomInfo"), nullptr);
 }
 
-RenderRecord RenderDriver::render(const RenderSettings& settings) {
+RenderRecord RenderDriver::render(const RenderSettings& settings, RenderObserver* observer) {
     RenderRecord record;
     findSources(settings.reuseInstances);
     record.geometrySources = static_cast<int>(sources.size());
     for (double frame : frames(settings)) {
-        const RecordedFrame& done = renderFrame(frame, settings.motionBlur);
-        if (!settings.frameDone)
+        const RecordedFrame& done = renderFrame(frame, settings.motionBlur, observer);
+        if (!observer)
             record.frames.push_back(done);
-        else if (!settings.frameDone(done))
+        else if (!observer->frameDone(done))
             break;
     }
     finishRender();
@@ -179,50 +179,62 @@ void RenderDriver::listParameters(VUtils::VRayPlugin* plugin,
 
 // The frame's record and the per-instance lists are kept from frame to frame and filled in place:
 // a large scene would otherwise allocate and free thousands of them at every frame.
-const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& blur) {
+const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& blur,
+                                               RenderObserver* observer) {
     current.frame = frame;
     current.sampleTimes = sampleTimes(frame, blur);
     mayahost::setCurrentTime(MTime(frame, MTime::uiUnit()));
-    for (Source& source : sources) translate(source);
     size_t count = 0;
-    for (Source& source : sources)
-        if (source.request->current()) beginSampling(source, count++, current.sampleTimes);
+    for (Source& source : sources) {
+        translate(source);
+        if (source.request->current()) enlist(source, count++);
+    }
     sampling.resize(count);
     current.instances.resize(count);
+    if (observer) observer->frameStarted(current);
     // The scene time moves once per sample for every instance, as in a renderer; moving it per
-    // instance would dirty every node's time once per instance.
+    // instance would dirty every node's time once per instance. Each instance starts its frame at
+    // the first sample and ends it at the last, so that a large scene is walked once a sample.
     const std::vector<double>& times = current.sampleTimes;
     for (size_t index = 0; index < times.size(); ++index) {
         mayahost::setCurrentTime(MTime(times[index], MTime::uiUnit()));
-        for (size_t i = 0; i < count; ++i) sample(sampling[i], current.instances[i], times, index);
+        const bool last = index + 1 == times.size();
+        for (size_t i = 0; i < count; ++i) {
+            if (index == 0) beginSampling(sampling[i], current.instances[i], times.front());
+            sample(sampling[i], current.instances[i], times, index);
+            if (!last) continue;
+            sampling[i].source->request->current()->frameBegin(frame);
+            if (observer) observer->instanceDone(current, current.instances[i]);
+        }
     }
-    for (const Sampling& instance : sampling)
-        instance.source->request->current()->frameBegin(frame);
     return current;
 }
 
-void RenderDriver::beginSampling(Source& source, size_t position,
-                                 const std::vector<double>& times) {
-    VUtils::VRayPlugin* plugin = source.request->current();
-    if (renderedSet.insert(plugin).second) rendered.push_back(plugin);
+void RenderDriver::enlist(Source& source, size_t position) {
     if (position == sampling.size()) sampling.emplace_back();
     if (position == current.instances.size()) current.instances.emplace_back();
-    Sampling& instanceSampling = sampling[position];
-    instanceSampling.source = &source;
-    listParameters(plugin, instanceSampling.parameters);
-    RecordedInstance& instance = current.instances[position];
+    sampling[position].source = &source;
+}
+
+void RenderDriver::beginSampling(Sampling& sampling, RecordedInstance& instance,
+                                 double firstSample) {
+    Source& source = *sampling.source;
+    VUtils::VRayPlugin* plugin = source.request->current();
+    if (plugin != source.lastSampled && renderedSet.insert(plugin).second)
+        rendered.push_back(plugin);
+    source.lastSampled = plugin;
+    listParameters(plugin, sampling.parameters);
     instance.node = source.name;
     instance.instance = source.request->currentNumber();
     instance.created = source.request->madeNewInstance();
-    instance.parameters.resize(instanceSampling.parameters.size());
+    instance.parameters.resize(sampling.parameters.size());
     for (size_t i = 0; i < instance.parameters.size(); ++i) {
-        const Parameter& p = instanceSampling.parameters[i];
+        const Parameter& p = sampling.parameters[i];
         RecordedParameter& recorded = instance.parameters[i];
         recorded.name = p.parameter->getName();
         recorded.animated = p.animation != nullptr;
-        recorded.first = RecordedValue();
-        recorded.later.clear();
-        if (p.animation) p.animation->clearKeyFrames(times.front(), 0);
+        recorded.later.clear();  // the first sample sets `first`
+        if (p.animation) p.animation->clearKeyFrames(firstSample, 0);
     }
 }
 

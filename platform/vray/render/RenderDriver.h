@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "GeomRequest.h"
+#include "RenderObserver.h"
 #include "RenderRecord.h"
 #include "RenderSettings.h"
 
@@ -26,13 +27,16 @@ public:
     explicit RenderDriver(VUtils::PluginRegistry* registry);
     ~RenderDriver();
 
-    RenderRecord render(const RenderSettings& settings);
+    // The frames go to the observer as they are rendered; without one they are kept in the
+    // record.
+    RenderRecord render(const RenderSettings& settings, RenderObserver* observer = nullptr);
 
 private:
     struct Source {
         MObject node;
         std::string name;
         std::unique_ptr<GeomRequest> request;
+        VUtils::VRayPlugin* lastSampled = nullptr;  // already in `rendered`
     };
     struct Parameter {
         VUtils::VRayPluginParameter* parameter;
@@ -47,8 +51,11 @@ private:
         std::vector<Parameter> parameters;
     };
 
-    const RecordedFrame& renderFrame(double frame, const MotionBlur& blur);
-    void beginSampling(Source& source, size_t position, const std::vector<double>& times);
+    const RecordedFrame& renderFrame(double frame, const MotionBlur& blur,
+                                     RenderObserver* observer);
+    // Makes room for one more instance in this frame, at `position`.
+    void enlist(Source& source, size_t position);
+    void beginSampling(Sampling& sampling, RecordedInstance& instance, double firstSample);
     void sample(const Sampling& sampling, RecordedInstance& instance,
                 const std::vector<double>& times, size_t index);
     void listParameters(VUtils::VRayPlugin* plugin, std::vector<Parameter>& parameters) const;

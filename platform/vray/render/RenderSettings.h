@@ -1,7 +1,6 @@
 #pragma once
 #include <cfloat>
 #include <cstddef>
-#include <functional>
 #include <vector>
 
 #include "RenderRecord.h"
@@ -24,10 +23,6 @@ struct RenderSettings {
     // Whether the renderer hands back the instance made at an earlier translation of the same
     // node (as during an interactive session) or makes a fresh one each frame.
     bool reuseInstances = true;
-    // When set, each frame is handed here as soon as it is rendered instead of being kept in the
-    // record, so that a long render need not hold every frame at once. Returning false stops
-    // the render after that frame. The frame's storage is reused for the next one.
-    std::function<bool(const RecordedFrame&)> frameDone;
 };
 
 // Why the frames of a render, or their sample times, cannot be rendered.
