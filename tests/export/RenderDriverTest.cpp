@@ -67,3 +67,104 @@ TEST_F(RenderDriver, RendersEveryFrameAndSampleThroughTheBridge) {
     // The render's end clears everything on the fur node.
     EXPECT_EQ(furCalls().back().operation, FurOperation::RemoveRenderSamples);
 }
+
+namespace {
+
+// Writes down what the renderer hands on, and checks each record is complete when it comes.
+class Observer : public vrayrender::RenderObserver {
+public:
+    std::vector<std::string> events;
+    bool stopAfterFirstFrame = false;
+
+    void frameStarted(const vrayrender::RecordedFrame& frame) override {
+        events.push_back("start " + std::to_string(static_cast<int>(frame.frame)) + " " +
+                         std::to_string(frame.sampleTimes.size()));
+    }
+    void instanceDone(const vrayrender::RecordedFrame& frame,
+                      const vrayrender::RecordedInstance& instance) override {
+        const vrayrender::RecordedParameter& files = named(instance, "file");
+        const std::string last = files.valueAt(frame.sampleTimes.size() - 1).text;
+        events.push_back(instance.node + " " + last);
+    }
+    bool frameDone(const vrayrender::RecordedFrame& frame) override {
+        events.push_back("done " + std::to_string(frame.instances.size()));
+        return !stopAfterFirstFrame;
+    }
+};
+
+}  // namespace
+
+// Each instance comes as soon as its last sample is read, complete, between its frame's start
+// and end; the frames themselves are then not kept.
+TEST_F(RenderDriver, AnObserverGetsEachInstanceAsItsFrameEnds) {
+    const MObject otherFur = createFur("otherFur");
+    addBridgeFor(otherFur, "otherBridge");
+    mayahost::findPlug(fur, "cacheFilePattern").setString("a.####.xvc");
+    mayahost::findPlug(otherFur, "cacheFilePattern").setString("b.####.xvc");
+    vrayrender::RenderSettings settings;
+    settings.startFrame = 1;
+    settings.endFrame = 2;
+    settings.motionBlur.enabled = true;
+    settings.motionBlur.geometrySamples = 3;
+    Observer observer;
+    vrayrender::RenderRecord record;
+    {
+        vrayrender::RenderDriver driver(&registry);
+        record = driver.render(settings, &observer);
+    }
+    EXPECT_TRUE(record.frames.empty());
+    EXPECT_EQ(observer.events,
+              (std::vector<std::string>{
+                  "start 1 3", "bridgeShape a.0002.xvc", "otherBridge b.0002.xvc", "done 2",
+                  "start 2 3", "bridgeShape a.0003.xvc", "otherBridge b.0003.xvc", "done 2"}));
+
+    observer.events.clear();
+    observer.stopAfterFirstFrame = true;
+    vrayrender::RenderDriver driver(&registry);
+    driver.render(settings, &observer);
+    EXPECT_EQ(observer.events.back(), "done 2");
+    EXPECT_EQ(observer.events.size(), 4u) << "the render went on after the observer said stop";
+}
+
+// Only the fields of the value's kind are the value: a held number is told from a changed one
+// without reading the text or the list.
+TEST(RecordedValueTest, ValuesAreEqualByTheFieldsOfTheirKind) {
+    using Kind = vrayrender::RecordedValue::Kind;
+    const auto make = [](Kind kind) {
+        vrayrender::RecordedValue value;
+        value.kind = kind;
+        return value;
+    };
+    struct Case {
+        const char* what;
+        void (*change)(vrayrender::RecordedValue&);
+        Kind kind;
+        bool equal;
+    };
+    const Case cases[] = {
+        {"int value", [](vrayrender::RecordedValue& v) { v.intValue = 1; }, Kind::Int, false},
+        {"number of an int", [](vrayrender::RecordedValue& v) { v.number = 1; }, Kind::Int, true},
+        {"float number", [](vrayrender::RecordedValue& v) { v.number = 1; }, Kind::Float, false},
+        {"double number", [](vrayrender::RecordedValue& v) { v.number = 1; }, Kind::Double, false},
+        {"text of a float", [](vrayrender::RecordedValue& v) { v.text = "x"; }, Kind::Float, true},
+        {"vector z", [](vrayrender::RecordedValue& v) { v.vector[2] = 1; }, Kind::Vector, false},
+        {"colour b", [](vrayrender::RecordedValue& v) { v.vector[2] = 1; }, Kind::Color, false},
+        {"number of a vector", [](vrayrender::RecordedValue& v) { v.number = 1; }, Kind::Vector,
+         true},
+        {"text", [](vrayrender::RecordedValue& v) { v.text = "x"; }, Kind::String, false},
+        {"null string", [](vrayrender::RecordedValue& v) { v.isNull = true; }, Kind::String, false},
+        {"list", [](vrayrender::RecordedValue& v) { v.list = {0.0f}; }, Kind::FloatList, false},
+        {"list of a string", [](vrayrender::RecordedValue& v) { v.list = {1.0f}; }, Kind::String,
+         true},
+        {"anything of none", [](vrayrender::RecordedValue& v) { v.intValue = 3; }, Kind::None,
+         true},
+    };
+    for (const Case& c : cases) {
+        const vrayrender::RecordedValue held = make(c.kind);
+        vrayrender::RecordedValue read = make(c.kind);
+        c.change(read);
+        EXPECT_EQ(read == held, c.equal) << c.what;
+        EXPECT_EQ(read != held, !c.equal) << c.what;
+    }
+    EXPECT_NE(make(Kind::Int), make(Kind::Float)) << "kinds differ";
+}

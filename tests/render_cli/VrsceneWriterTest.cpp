@@ -1,9 +1,15 @@
 // The .vrscene text from a render record, byte for byte.
 #include <gtest/gtest.h>
 
+#include <stdlib.h>
+
+#include <filesystem>
 #include <limits>
 #include <string>
 
+#include "Files.h"
+#include "OutputFile.h"
+#include "VrsceneStream.h"
 #include "VrsceneValue.h"
 #include "VrsceneWriter.h"
 
@@ -189,6 +195,40 @@ TEST(VrsceneWriterTest, HeaderSaysWhenBlurIsOff) {
               "// V-Ray scene: what the xrVellVRay plugin received, written by xrvell-render\n"
               "// Scene: s.ma\n"
               "// Frames -2.5 to 10, step 0.5; motion blur off\n");
+}
+
+// Written as the renderer hands it on, in pieces of any size, the file is the same text.
+TEST(VrsceneWriterTest, AStreamWritesTheSameTextInPiecesOfAnySize) {
+    char name[] = "/tmp/xrvell-stream-XXXXXX";
+    ASSERT_NE(mkdtemp(name), nullptr);
+    const std::filesystem::path directory = name;
+    const vrayrender::RenderRecord record = twoFrames();
+    const xrvell::VrsceneWriter writer("s.ma", {});
+    for (size_t chunk : {size_t{1}, size_t{100}, size_t{1} << 30}) {
+        const std::filesystem::path path = directory / ("out" + std::to_string(chunk));
+        xrvell::OutputFile output(path.string());
+        std::string error;
+        ASSERT_TRUE(output.open(&error)) << error;
+        std::vector<double> framesWritten;
+        bool started = false;
+        xrvell::VrsceneStream stream(
+            writer, output, chunk,
+            [&](const vrayrender::RecordedFrame& frame) { framesWritten.push_back(frame.frame); },
+            started);
+        stream.start();
+        for (const vrayrender::RecordedFrame& frame : record.frames) {
+            stream.frameStarted(frame);
+            for (const vrayrender::RecordedInstance& instance : frame.instances)
+                stream.instanceDone(frame, instance);
+            EXPECT_TRUE(stream.frameDone(frame));
+        }
+        EXPECT_TRUE(stream.flush()) << stream.failure();
+        ASSERT_TRUE(output.commit(&error)) << error;
+        EXPECT_EQ(contentsOf(path), writer.write(record)) << "pieces of " << chunk;
+        EXPECT_EQ(framesWritten, (std::vector<double>{1.0, 2.0}));
+        EXPECT_FALSE(started) << "a temporary file is not the target";
+    }
+    std::filesystem::remove_all(directory);
 }
 
 }  // namespace
