@@ -320,14 +320,18 @@ bool SceneReader::createInHost(const std::string& type, const std::string& name,
     }
     if (object.isNull()) return fail("createNode: " + withoutPrefix(error, "createNode: "));
     const std::string key = name.empty() ? mayahost::nodeName(object) : name;
-    nodes[key] = describe(object, type);
+    SceneNode& entry = nodes[key] = describe(object, type);
     skippedNodes.erase(key);  // a name an earlier, skipped node had
     created.push_back(object);
     select(key);
+    currentNode = &entry;
     return true;
 }
 
-void SceneReader::select(const std::string& node) { current = node; }
+void SceneReader::select(const std::string& node) {
+    current = node;
+    currentNode = nullptr;
+}
 
 // An unnamed node still takes the settings that follow it, so it gets a name no file can use.
 void SceneReader::skipUnmodelled(const std::string& name, const std::string& type) {
@@ -369,12 +373,17 @@ const SceneReader::SceneNode* SceneReader::findNode(const std::string& name) {
 }
 
 SceneReader::SceneNode SceneReader::describe(MObject object, const std::string& type) {
-    mayahost::NodeTypeInfo info;
-    mayahost::findNodeType(type, &info);
+    auto traits = typeTraits.find(type);
+    if (traits == typeTraits.end()) {
+        mayahost::NodeTypeInfo info;
+        mayahost::findNodeType(type, &info);
+        traits =
+            typeTraits.emplace(type, std::make_pair(info.pluginPath.empty(), info.isShape)).first;
+    }
     MStatus isDag;
     MFnDagNode dag(object, &isDag);
-    return SceneNode{object, type, info.pluginPath.empty(), isDag == MStatus::kSuccess,
-                     info.isShape};
+    return SceneNode{object, type, traits->second.first, isDag == MStatus::kSuccess,
+                     traits->second.second};
 }
 
 bool SceneReader::splitPlug(const std::string& text, PlugPath* path) {
@@ -421,8 +430,10 @@ bool SceneReader::setAttrCommand(const MaStatement& statement) {
         return false;
     }
     if (isSkipped(path.node) || addedAttributes.count({path.node, path.attribute})) return true;
-    const SceneNode* node = findNode(path.node);
+    const bool selected = path.node == current;
+    const SceneNode* node = selected && currentNode ? currentNode : findNode(path.node);
     if (!node) return fail("setAttr: no node " + quoted(path.node));
+    if (selected) currentNode = node;  // the settings after a createNode are for that node
     SetAttrValue value;
     if (const std::string* type = args.value("type")) value.type = *type;
     value.words.assign(args.plain().begin() + 1, args.plain().end());

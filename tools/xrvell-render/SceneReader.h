@@ -62,7 +62,7 @@ private:
 
     bool splitPlug(const std::string& text, PlugPath* path);
     const SceneNode* findNode(const std::string& name);
-    static SceneNode describe(MObject object, const std::string& type);
+    SceneNode describe(MObject object, const std::string& type);
     bool missingDefaultNode(const PlugPath& path);
     bool isSkipped(const std::string& node) const { return skippedNodes.count(node) > 0; }
     void skipNode(const std::string& node) { skippedNodes.insert(node); }
@@ -81,6 +81,9 @@ private:
     std::unordered_set<std::string> rendererTypes;  // node types of the renderer's own plug-in
     std::set<std::pair<std::string, std::string>> addedAttributes;  // (node, attribute)
     std::string current;                                            // the selected node
+    const SceneNode* currentNode = nullptr;  // its entry in `nodes` once looked up
+    // Per node type: whether it is one of the host's own, and whether it is a shape.
+    std::unordered_map<std::string, std::pair<bool, bool>> typeTraits;
     std::vector<MObject> created;
     std::set<std::string> warnedCommands, warnedTypes, warnedAttributes, warnedNodes;
 };
