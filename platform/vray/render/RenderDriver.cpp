@@ -31,6 +31,7 @@ bool isGeometrySource(const MObject& node) {
 void record(RecordedParameter& parameter, const RecordedValue& value, size_t index,
             size_t samples) {
     if (index == 0) {
+        parameter.later.clear();
         parameter.first = value;
         return;
     }
@@ -223,18 +224,31 @@ void RenderDriver::beginSampling(Sampling& sampling, RecordedInstance& instance,
     if (plugin != source.lastSampled && renderedSet.insert(plugin).second)
         rendered.push_back(plugin);
     source.lastSampled = plugin;
-    listParameters(plugin, sampling.parameters);
-    instance.node = source.name;
+    if (!listedAlready(sampling, plugin)) list(sampling, plugin, instance);
     instance.instance = source.request->currentNumber();
     instance.created = source.request->madeNewInstance();
+    for (const Parameter& p : sampling.parameters)
+        if (p.animation) p.animation->clearKeyFrames(firstSample, 0);
+}
+
+// Lists only grow, so the same instance with as many parameters as before lists the same ones.
+bool RenderDriver::listedAlready(const Sampling& sampling, VUtils::VRayPlugin* plugin) const {
+    const VUtils::VRayParameterList* list = plugin->getParameterList();
+    return plugin == sampling.listed && list &&
+           static_cast<size_t>(list->getNumParams()) == sampling.parameters.size();
+}
+
+void RenderDriver::list(Sampling& sampling, VUtils::VRayPlugin* plugin,
+                        RecordedInstance& instance) {
+    sampling.listed = plugin;
+    listParameters(plugin, sampling.parameters);
+    instance.node = sampling.source->name;
     instance.parameters.resize(sampling.parameters.size());
     for (size_t i = 0; i < instance.parameters.size(); ++i) {
         const Parameter& p = sampling.parameters[i];
         RecordedParameter& recorded = instance.parameters[i];
         recorded.name = p.parameter->getName();
         recorded.animated = p.animation != nullptr;
-        recorded.later.clear();  // the first sample sets `first`
-        if (p.animation) p.animation->clearKeyFrames(firstSample, 0);
     }
 }
 

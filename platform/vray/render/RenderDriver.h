@@ -48,6 +48,7 @@ private:
     // One plugin instance being sampled through a frame.
     struct Sampling {
         Source* source = nullptr;
+        VUtils::VRayPlugin* listed = nullptr;  // the instance `parameters` were listed from
         std::vector<Parameter> parameters;
     };
 
@@ -56,6 +57,9 @@ private:
     // Makes room for one more instance in this frame, at `position`.
     void enlist(Source& source, size_t position);
     void beginSampling(Sampling& sampling, RecordedInstance& instance, double firstSample);
+    bool listedAlready(const Sampling& sampling, VUtils::VRayPlugin* plugin) const;
+    // Lists the instance's parameters and names their records.
+    void list(Sampling& sampling, VUtils::VRayPlugin* plugin, RecordedInstance& instance);
     void sample(const Sampling& sampling, RecordedInstance& instance,
                 const std::vector<double>& times, size_t index);
     void listParameters(VUtils::VRayPlugin* plugin, std::vector<Parameter>& parameters) const;
