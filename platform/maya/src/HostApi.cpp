@@ -136,7 +136,8 @@ void reset() {
     // plug-ins that made them are still loaded.
     host.connections.clear();
     connectionsRemoved();
-    destroyNodesWhere([](const NodeObj&) { return true; });
+    // Last made first, which is mostly a leaf; a node's DAG children go with it wherever they are.
+    while (!host.nodes.empty()) destroyNode(host.nodes.back());
     unloadAllPlugins();
     host.nodeTypes.clear();
     host.dataTypes.clear();
