@@ -185,40 +185,30 @@ const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& b
     current.frame = frame;
     current.sampleTimes = sampleTimes(frame, blur);
     mayahost::setCurrentTime(MTime(frame, MTime::uiUnit()));
-    if (observer) observer->frameStarted(current);
-    const std::vector<double>& times = current.sampleTimes;
-    // When the first sample is at the frame itself, each instance takes it right after its
-    // translation, while what the translation touched is still in the caches.
-    const bool firstAtFrame = times.front() == frame;
     size_t count = 0;
     for (Source& source : sources) {
         translate(source);
-        if (!source.request->current()) continue;
-        enlist(source, count);
-        if (firstAtFrame) takeSample(count, 0, observer);
-        ++count;
+        if (source.request->current()) enlist(source, count++);
     }
     sampling.resize(count);
     current.instances.resize(count);
+    if (observer) observer->frameStarted(current);
     // The scene time moves once per sample for every instance, as in a renderer; moving it per
     // instance would dirty every node's time once per instance. Each instance starts its frame at
     // the first sample and ends it at the last, so that a large scene is walked once a sample.
-    for (size_t index = firstAtFrame ? 1 : 0; index < times.size(); ++index) {
+    const std::vector<double>& times = current.sampleTimes;
+    for (size_t index = 0; index < times.size(); ++index) {
         mayahost::setCurrentTime(MTime(times[index], MTime::uiUnit()));
-        for (size_t i = 0; i < count; ++i) takeSample(i, index, observer);
+        const bool last = index + 1 == times.size();
+        for (size_t i = 0; i < count; ++i) {
+            if (index == 0) beginSampling(sampling[i], current.instances[i], times.front());
+            sample(sampling[i], current.instances[i], times, index);
+            if (!last) continue;
+            sampling[i].source->request->current()->frameBegin(frame);
+            if (observer) observer->instanceDone(current, current.instances[i]);
+        }
     }
     return current;
-}
-
-void RenderDriver::takeSample(size_t position, size_t index, RenderObserver* observer) {
-    const std::vector<double>& times = current.sampleTimes;
-    Sampling& instanceSampling = sampling[position];
-    RecordedInstance& instance = current.instances[position];
-    if (index == 0) beginSampling(instanceSampling, instance, times.front());
-    sample(instanceSampling, instance, times, index);
-    if (index + 1 < times.size()) return;
-    instanceSampling.source->request->current()->frameBegin(current.frame);
-    if (observer) observer->instanceDone(current, instance);
 }
 
 void RenderDriver::enlist(Source& source, size_t position) {

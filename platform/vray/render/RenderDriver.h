@@ -56,9 +56,6 @@ private:
                                      RenderObserver* observer);
     // Makes room for one more instance in this frame, at `position`.
     void enlist(Source& source, size_t position);
-    // The instance at `position` takes the sample at `index`: the first starts its frame and the
-    // last ends it.
-    void takeSample(size_t position, size_t index, RenderObserver* observer);
     void beginSampling(Sampling& sampling, RecordedInstance& instance, double firstSample);
     bool listedAlready(const Sampling& sampling, VUtils::VRayPlugin* plugin) const;
     // Lists the instance's parameters and names their records.
