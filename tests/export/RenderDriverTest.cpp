@@ -15,6 +15,17 @@ const vrayrender::RecordedParameter& named(const vrayrender::RecordedInstance& i
     return none;
 }
 
+// Frames 1 and 2 with three motion-blur samples each, around the given interval centre.
+vrayrender::RenderSettings twoBlurredFrames(double intervalCenter) {
+    vrayrender::RenderSettings settings;
+    settings.startFrame = 1;
+    settings.endFrame = 2;
+    settings.motionBlur.enabled = true;
+    settings.motionBlur.intervalCenter = intervalCenter;
+    settings.motionBlur.geometrySamples = 3;
+    return settings;
+}
+
 }  // namespace
 
 TEST_F(RenderDriver, MotionBlurSamplesAreSpreadOverTheInterval) {
@@ -30,12 +41,7 @@ TEST_F(RenderDriver, MotionBlurSamplesAreSpreadOverTheInterval) {
 
 TEST_F(RenderDriver, RendersEveryFrameAndSampleThroughTheBridge) {
     mayahost::findPlug(fur, "cacheFilePattern").setString("hair.####.xvc");
-    vrayrender::RenderSettings settings;
-    settings.startFrame = 1;
-    settings.endFrame = 2;
-    settings.motionBlur.enabled = true;
-    settings.motionBlur.intervalCenter = 0.0;
-    settings.motionBlur.geometrySamples = 3;
+    const vrayrender::RenderSettings settings = twoBlurredFrames(0.0);
     vrayrender::RenderRecord record;
     {
         vrayrender::RenderDriver driver(&registry);
@@ -101,11 +107,7 @@ TEST_F(RenderDriver, AnObserverGetsEachInstanceAsItsFrameEnds) {
     addBridgeFor(otherFur, "otherBridge");
     mayahost::findPlug(fur, "cacheFilePattern").setString("a.####.xvc");
     mayahost::findPlug(otherFur, "cacheFilePattern").setString("b.####.xvc");
-    vrayrender::RenderSettings settings;
-    settings.startFrame = 1;
-    settings.endFrame = 2;
-    settings.motionBlur.enabled = true;
-    settings.motionBlur.geometrySamples = 3;
+    const vrayrender::RenderSettings settings = twoBlurredFrames(0.5);
     Observer observer;
     vrayrender::RenderRecord record;
     {
