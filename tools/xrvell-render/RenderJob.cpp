@@ -27,7 +27,7 @@
 namespace xrvell {
 namespace {
 
-// Frames are gathered into pieces of about this size before they are written: small enough to
+// The output is gathered into pieces of about this size before they are written: small enough to
 // stay in the caches while they are made.
 const size_t kWriteChunk = 256 << 10;
 

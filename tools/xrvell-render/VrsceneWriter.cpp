@@ -23,7 +23,8 @@ std::string doubleText(double value) {
 }
 
 bool changesWithinFrame(const RecordedParameter& parameter, size_t samples) {
-    for (size_t i = 1; i < samples && !parameter.heldThroughFrame(); ++i)
+    if (parameter.heldThroughFrame()) return false;
+    for (size_t i = 1; i < samples; ++i)
         if (parameter.valueAt(i) != parameter.first) return true;
     return false;
 }
