@@ -2,6 +2,7 @@
 #include <maya/MObject.h>
 
 #include <functional>
+#include <memory_resource>
 #include <set>
 #include <string>
 #include <string_view>
@@ -76,11 +77,16 @@ private:
     Diagnostics& diagnostics;
     PluginRequest requirePlugin;
     int line = 0;
-    std::unordered_map<std::string, SceneNode> nodes;  // by the names the file uses
-    std::unordered_set<std::string> skippedNodes;
+    // The table entries kept per node live in large blocks, given back whole when the reading is
+    // done: freed one by one, tens of thousands of them would leave small holes all through the
+    // scene's memory, and the render's own data would then be scattered into those holes.
+    std::pmr::monotonic_buffer_resource perNode;
+    std::pmr::unordered_map<std::string, SceneNode> nodes{&perNode};  // by the names the file uses
+    std::pmr::unordered_set<std::string> skippedNodes{&perNode};
     std::unordered_set<std::string> rendererTypes;  // node types of the renderer's own plug-in
-    std::set<std::pair<std::string, std::string>> addedAttributes;  // (node, attribute)
-    std::string current;                                            // the selected node
+    // (node, attribute) of each attribute the file adds
+    std::pmr::set<std::pair<std::string, std::string>> addedAttributes{&perNode};
+    std::string current;                     // the selected node
     const SceneNode* currentNode = nullptr;  // its entry in `nodes` once looked up
     // Per node type: whether it is one of the host's own, and whether it is a shape.
     std::unordered_map<std::string, std::pair<bool, bool>> typeTraits;
