@@ -64,6 +64,11 @@ private:
                 const std::vector<double>& times, size_t index);
     void listParameters(VUtils::VRayPlugin* plugin, std::vector<Parameter>& parameters) const;
     void finishRender();
+    // Each instance's records and parameters sit apart from the next one's, so that a scene
+    // larger than the caches would wait on memory at every instance. The sample loop asks for
+    // the lists of the instance two ahead and for what they point to one ahead.
+    static void fetchListsAhead(const Sampling& sampling, const RecordedInstance& instance);
+    static void fetchValuesAhead(const Sampling& sampling, const RecordedInstance& instance);
 
     VUtils::PluginRegistry* registry;
     std::vector<Source> sources;
