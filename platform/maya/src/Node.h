@@ -32,19 +32,21 @@ struct Slot {
     ConnectionPosition lastOutgoing = kNoConnection;
 };
 
+// What every access through a handle or a plug reads comes first, with the reference count, so
+// that it shares a cache line: a render walks thousands of nodes at each time step.
 struct NodeObj : Object {
-    NodeType* type = nullptr;
-    std::string name;
-    MPxNode* user = nullptr;          // the plug-in's node object; null for the host's own types
-    MPxSurfaceShapeUI* ui = nullptr;  // the legacy viewport object of a plug-in shape
     bool alive = true;
-    NodeObj* parent = nullptr;       // DAG parent; null under the world
-    std::vector<NodeObj*> children;  // DAG children, in the order they were parented
-    std::vector<MObject> dynamicAttributes;
-    MaterialSettings material;  // the shading assigned to a shape
+    NodeType* type = nullptr;
     // Values by the attribute's place, made on first use. Each vector is sized once for its
     // attributes, so references to slots stay valid; scenes of thousands of nodes stay compact.
     std::vector<Slot> slots;
+    MPxNode* user = nullptr;  // the plug-in's node object; null for the host's own types
+    std::string name;
+    MPxSurfaceShapeUI* ui = nullptr;  // the legacy viewport object of a plug-in shape
+    NodeObj* parent = nullptr;        // DAG parent; null under the world
+    std::vector<NodeObj*> children;   // DAG children, in the order they were parented
+    std::vector<MObject> dynamicAttributes;
+    MaterialSettings material;  // the shading assigned to a shape
     std::vector<Slot> dynamicSlots;
     std::unordered_map<const AttributeObj*, Slot> strays;  // attributes of no place here
 
