@@ -145,3 +145,24 @@ TEST_F(Connections, DataTypeIdsAndNamesAreUniqueAndShareIdsWithNodeTypes) {
     mayahost::reset();
     EXPECT_TRUE(mayahost::loadPlugin(DATA_SAME_ID_PATH));
 }
+
+// A hint for a renderer walking a large scene, which follows the node's connections: it must
+// reach no plug-in operation and change nothing, and a null or deleted node is ignored.
+TEST_F(Connections, PrefetchingANodeCallsNothingAndIgnoresNullAndDeletedNodes) {
+    const MObject fur = createFur("fur");
+    const MObject bridge = createBridge("bridge");
+    connectFur(fur, bridge);
+    const MObject gone = createBridge("gone");
+    ASSERT_EQ(mayahost::deleteNode(gone), MStatus::kSuccess);
+    const MPlug density = mayahost::findPlug(fur, "renderDensity");
+    const double before = density.asDouble();
+    furCalls().clear();
+
+    for (const MObject& node : {bridge, fur, MObject(), gone}) mayahost::prefetchNode(node);
+
+    EXPECT_TRUE(furCalls().empty());
+    EXPECT_EQ(density.asDouble(), before);
+    MPlugArray plugs;
+    EXPECT_TRUE(mayahost::findPlug(bridge, "inputData").connectedTo(plugs, true, false));
+    EXPECT_EQ(namesOf(plugs), std::vector<std::string>{"fur.outputData"});
+}

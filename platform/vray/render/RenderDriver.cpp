@@ -210,7 +210,9 @@ const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& b
     current.sampleTimes = sampleTimes(frame, blur);
     mayahost::setCurrentTime(MTime(frame, MTime::uiUnit()));
     size_t count = 0;
-    for (Source& source : sources) {
+    for (size_t i = 0; i < sources.size(); ++i) {
+        Source& source = sources[i];
+        if (i + 1 < sources.size()) mayahost::prefetchNode(sources[i + 1].node);
         translate(source);
         if (source.request->current()) enlist(source, count++);
     }
@@ -226,7 +228,10 @@ const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& b
         const bool last = index + 1 == times.size();
         for (size_t i = 0; i < count; ++i) {
             if (i + 2 < count) fetchListsAhead(sampling[i + 2], current.instances[i + 2]);
-            if (i + 1 < count) fetchValuesAhead(sampling[i + 1], current.instances[i + 1]);
+            if (i + 1 < count) {
+                fetchValuesAhead(sampling[i + 1], current.instances[i + 1]);
+                mayahost::prefetchNode(sampling[i + 1].source->node);
+            }
             if (index == 0) beginSampling(sampling[i], current.instances[i], times.front());
             sample(sampling[i], current.instances[i], times, index);
             if (!last) continue;

@@ -66,7 +66,8 @@ private:
     void finishRender();
     // Each instance's records and parameters sit apart from the next one's, so that a scene
     // larger than the caches would wait on memory at every instance. The sample loop asks for
-    // the lists of the instance two ahead and for what they point to one ahead.
+    // the lists of the instance two ahead and for what they point to one ahead; both loops ask
+    // the host for the next node's memory.
     static void fetchListsAhead(const Sampling& sampling, const RecordedInstance& instance);
     static void fetchValuesAhead(const Sampling& sampling, const RecordedInstance& instance);
 

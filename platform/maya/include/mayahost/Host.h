@@ -101,6 +101,11 @@ MStatus deleteNode(const MObject& node);
 MObject findNode(const std::string& name);
 std::string nodeName(const MObject& node);
 MPxNode* userNode(const MObject& node);
+// Starts bringing a node's memory into the caches: its values and plug-in object, and those of
+// the nodes feeding its connected plugs. For a caller about to work on one node of thousands,
+// as a renderer walking a large scene. Reads nothing back, changes nothing, evaluates nothing;
+// a null or deleted node is ignored.
+void prefetchNode(const MObject& node);
 // The plug of a node's attribute by long or short name; a null plug when there is none.
 MPlug findPlug(const MObject& node, const std::string& attribute);
 // Calls the node's compute for the plug directly, with the node's data block.
