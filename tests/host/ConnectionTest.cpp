@@ -1,4 +1,6 @@
 // Connections, the plug queries that see them, dynamic attributes and data type registrations.
+#include <algorithm>
+
 #include <maya/MFnDependencyNode.h>
 #include <maya/MFnTypedAttribute.h>
 #include <maya/MPlugArray.h>
@@ -146,23 +148,29 @@ TEST_F(Connections, DataTypeIdsAndNamesAreUniqueAndShareIdsWithNodeTypes) {
     EXPECT_TRUE(mayahost::loadPlugin(DATA_SAME_ID_PATH));
 }
 
-// A hint for a renderer walking a large scene, which follows the node's connections: it must
-// reach no plug-in operation and change nothing, and a null or deleted node is ignored.
-TEST_F(Connections, PrefetchingANodeCallsNothingAndIgnoresNullAndDeletedNodes) {
+// What a renderer walking a large scene asks for ahead of use: the node and the nodes feeding
+// it, found without evaluating anything; nothing for a null or deleted node.
+TEST_F(Connections, NodeMemoryCoversTheFeedingNodesAndCallsNothing) {
     const MObject fur = createFur("fur");
     const MObject bridge = createBridge("bridge");
+    const MObject alone = createBridge("alone");
     connectFur(fur, bridge);
     const MObject gone = createBridge("gone");
     ASSERT_EQ(mayahost::deleteNode(gone), MStatus::kSuccess);
-    const MPlug density = mayahost::findPlug(fur, "renderDensity");
-    const double before = density.asDouble();
     furCalls().clear();
 
-    for (const MObject& node : {bridge, fur, MObject(), gone}) mayahost::prefetchNode(node);
+    const std::vector<mayahost::MemoryBlock> fed = mayahost::nodeMemory(bridge);
+    const std::vector<mayahost::MemoryBlock> unfed = mayahost::nodeMemory(alone);
 
     EXPECT_TRUE(furCalls().empty());
-    EXPECT_EQ(density.asDouble(), before);
-    MPlugArray plugs;
-    EXPECT_TRUE(mayahost::findPlug(bridge, "inputData").connectedTo(plugs, true, false));
-    EXPECT_EQ(namesOf(plugs), std::vector<std::string>{"fur.outputData"});
+    ASSERT_FALSE(unfed.empty());
+    EXPECT_GT(fed.size(), unfed.size());
+    const auto covers = [&fed](const mayahost::MemoryBlock& block) {
+        return std::any_of(fed.begin(), fed.end(), [&block](const mayahost::MemoryBlock& b) {
+            return b.start == block.start && b.bytes == block.bytes;
+        });
+    };
+    for (const mayahost::MemoryBlock& block : mayahost::nodeMemory(fur)) EXPECT_TRUE(covers(block));
+    EXPECT_TRUE(mayahost::nodeMemory(MObject()).empty());
+    EXPECT_TRUE(mayahost::nodeMemory(gone).empty());
 }

@@ -232,33 +232,33 @@ std::string nodeName(const MObject& handle) {
 
 namespace {
 
-void fetchBlock(const void* start, size_t bytes) {
-    const size_t cacheLine = 64;
-    const char* block = static_cast<const char*>(start);
-    for (size_t at = 0; at < bytes; at += cacheLine) __builtin_prefetch(block + at);
-}
-
+// A node record keeps what every access reads in its first cache line.
+const size_t kNodeRecordBytes = 64;
 // The start of a plug-in's node object, where its own fields usually are.
 const size_t kUserNodeBytes = 128;
 
-void fetchNodeMemory(const NodeObj& node) {
-    if (node.user) fetchBlock(node.user, kUserNodeBytes);
-    fetchBlock(node.slots.data(), node.slots.size() * sizeof(Slot));
+void addNodeMemory(const NodeObj& node, std::vector<MemoryBlock>& blocks) {
+    blocks.push_back({&node, kNodeRecordBytes});
+    if (node.user) blocks.push_back({node.user, kUserNodeBytes});
+    if (!node.slots.empty())
+        blocks.push_back({node.slots.data(), node.slots.size() * sizeof(Slot)});
 }
 
 }  // namespace
 
-void prefetchNode(const MObject& handle) {
+std::vector<MemoryBlock> nodeMemory(const MObject& handle) {
+    std::vector<MemoryBlock> blocks;
     const NodeObj* node = nodeOf(handle);
-    if (!node) return;
-    fetchNodeMemory(*node);
+    if (!node) return blocks;
+    addNodeMemory(*node, blocks);
     const std::vector<Connection>& connections = state().connections;
     for (const Slot& slot : node->slots) {
         if (slot.incoming == kNoConnection) continue;
-        const NodeObj* source = connections[slot.incoming].sourceNode;
-        __builtin_prefetch(source);
-        fetchNodeMemory(*source);
+        const Connection& connection = connections[slot.incoming];
+        blocks.push_back({&connection, sizeof(Connection)});
+        addNodeMemory(*connection.sourceNode, blocks);
     }
+    return blocks;
 }
 
 MPxNode* userNode(const MObject& handle) {

@@ -70,6 +70,10 @@ void RenderDriver::fetchValuesAhead(const Sampling& sampling, const RecordedInst
     }
 }
 
+void RenderDriver::fetchNodeAhead(const Source& source) {
+    for (const mayahost::MemoryBlock& block : source.memory) fetchAhead(block.start, block.bytes);
+}
+
 std::vector<double> sampleTimes(double frame, const MotionBlur& blur) {
     if (!blur.enabled) return {frame};
     const double centre = frame + blur.intervalCenter;
@@ -178,6 +182,7 @@ void RenderDriver::findSources(bool reuseInstances) {
         source.node = node;
         source.name = mayahost::nodeName(node);
         source.request.reset(new GeomRequest(registry, reuseInstances, &instanceCounter));
+        source.memory = mayahost::nodeMemory(node);
         sources.push_back(std::move(source));
     }
 }
@@ -212,7 +217,7 @@ const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& b
     size_t count = 0;
     for (size_t i = 0; i < sources.size(); ++i) {
         Source& source = sources[i];
-        if (i + 1 < sources.size()) mayahost::prefetchNode(sources[i + 1].node);
+        if (i + 1 < sources.size()) fetchNodeAhead(sources[i + 1]);
         translate(source);
         if (source.request->current()) enlist(source, count++);
     }
@@ -230,7 +235,7 @@ const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& b
             if (i + 2 < count) fetchListsAhead(sampling[i + 2], current.instances[i + 2]);
             if (i + 1 < count) {
                 fetchValuesAhead(sampling[i + 1], current.instances[i + 1]);
-                mayahost::prefetchNode(sampling[i + 1].source->node);
+                fetchNodeAhead(*sampling[i + 1].source);
             }
             if (index == 0) beginSampling(sampling[i], current.instances[i], times.front());
             sample(sampling[i], current.instances[i], times, index);

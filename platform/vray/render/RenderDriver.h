@@ -1,5 +1,6 @@
 #pragma once
 #include <maya/MObject.h>
+#include <mayahost/Host.h>
 
 #include <memory>
 #include <string>
@@ -37,6 +38,8 @@ private:
         std::string name;
         std::unique_ptr<GeomRequest> request;
         VUtils::VRayPlugin* lastSampled = nullptr;  // already in `rendered`
+        // Where the host keeps the node and the nodes feeding it, found when the render starts.
+        std::vector<mayahost::MemoryBlock> memory;
     };
     struct Parameter {
         VUtils::VRayPluginParameter* parameter;
@@ -67,9 +70,10 @@ private:
     // Each instance's records and parameters sit apart from the next one's, so that a scene
     // larger than the caches would wait on memory at every instance. The sample loop asks for
     // the lists of the instance two ahead and for what they point to one ahead; both loops ask
-    // the host for the next node's memory.
+    // for the memory the host keeps for the next node.
     static void fetchListsAhead(const Sampling& sampling, const RecordedInstance& instance);
     static void fetchValuesAhead(const Sampling& sampling, const RecordedInstance& instance);
+    static void fetchNodeAhead(const Source& source);
 
     VUtils::PluginRegistry* registry;
     std::vector<Source> sources;
