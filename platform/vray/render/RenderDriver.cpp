@@ -70,8 +70,9 @@ void RenderDriver::fetchValuesAhead(const Sampling& sampling, const RecordedInst
     }
 }
 
-void RenderDriver::fetchNodeAhead(const Source& source) {
-    for (const mayahost::MemoryBlock& block : source.memory) fetchAhead(block.start, block.bytes);
+void RenderDriver::fetchNodeAhead(const Source& source) const {
+    for (size_t i = source.firstBlock; i < source.firstBlock + source.blockCount; ++i)
+        fetchAhead(nodeBlocks[i].start, nodeBlocks[i].bytes);
 }
 
 std::vector<double> sampleTimes(double frame, const MotionBlur& blur) {
@@ -182,9 +183,13 @@ void RenderDriver::findSources(bool reuseInstances) {
         source.node = node;
         source.name = mayahost::nodeName(node);
         source.request.reset(new GeomRequest(registry, reuseInstances, &instanceCounter));
-        source.memory = mayahost::nodeMemory(node);
+        const std::vector<mayahost::MemoryBlock> blocks = mayahost::nodeMemory(node);
+        source.firstBlock = nodeBlocks.size();
+        source.blockCount = blocks.size();
+        nodeBlocks.insert(nodeBlocks.end(), blocks.begin(), blocks.end());
         sources.push_back(std::move(source));
     }
+    nodeBlocks.shrink_to_fit();  // kept through the render, so without the room grown into
 }
 
 void RenderDriver::translate(Source& source) {

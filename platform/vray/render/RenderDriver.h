@@ -38,8 +38,10 @@ private:
         std::string name;
         std::unique_ptr<GeomRequest> request;
         VUtils::VRayPlugin* lastSampled = nullptr;  // already in `rendered`
-        // Where the host keeps the node and the nodes feeding it, found when the render starts.
-        std::vector<mayahost::MemoryBlock> memory;
+        // Where the host keeps the node and the nodes feeding it, found when the render starts:
+        // this many blocks of `nodeBlocks` from the first.
+        size_t firstBlock = 0;
+        size_t blockCount = 0;
     };
     struct Parameter {
         VUtils::VRayPluginParameter* parameter;
@@ -73,11 +75,12 @@ private:
     // for the memory the host keeps for the next node.
     static void fetchListsAhead(const Sampling& sampling, const RecordedInstance& instance);
     static void fetchValuesAhead(const Sampling& sampling, const RecordedInstance& instance);
-    static void fetchNodeAhead(const Source& source);
+    void fetchNodeAhead(const Source& source) const;
 
     VUtils::PluginRegistry* registry;
     std::vector<Source> sources;
-    std::vector<VUtils::VRayPlugin*> rendered;  // every instance driven so far, in order
+    std::vector<mayahost::MemoryBlock> nodeBlocks;  // of all sources, one after the other
+    std::vector<VUtils::VRayPlugin*> rendered;      // every instance driven so far, in order
     std::unordered_set<VUtils::VRayPlugin*> renderedSet;
     int instanceCounter = 0;
     std::vector<Sampling> sampling;  // the instances of the frame being rendered, in order
