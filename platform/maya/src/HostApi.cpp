@@ -251,12 +251,11 @@ std::vector<MemoryBlock> nodeMemory(const MObject& handle) {
     const NodeObj* node = nodeOf(handle);
     if (!node) return blocks;
     addNodeMemory(*node, blocks);
-    const std::vector<Connection>& connections = state().connections;
-    for (const Slot& slot : node->slots) {
-        if (slot.incoming == kNoConnection) continue;
-        const Connection& connection = connections[slot.incoming];
-        blocks.push_back({&connection, sizeof(Connection)});
-        addNodeMemory(*connection.sourceNode, blocks);
+    for (const MObject& handle : node->type->attributes) {
+        const Connection* connection = incomingConnection(*node, *attributeOf(handle));
+        if (!connection) continue;
+        blocks.push_back({connection, sizeof(Connection)});
+        addNodeMemory(*connection->sourceNode, blocks);
     }
     return blocks;
 }
