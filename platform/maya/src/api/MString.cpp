@@ -8,7 +8,7 @@ namespace {
 char* duplicate(const char* text, unsigned int length) {
     if (length == 0) return nullptr;
     char* copy = new char[length + 1];
-    if (length) std::memcpy(copy, text, length);
+    std::memcpy(copy, text, length);
     copy[length] = '\0';
     return copy;
 }
