@@ -6,6 +6,7 @@
 #include <mayahost/Host.h>
 
 #include "HostState.h"
+#include "UnknownNodes.h"
 
 namespace mayahost {
 namespace detail {
@@ -87,6 +88,7 @@ void startHost() {
     addTransformType();
     addTimeType();
     addMeshType();
+    addUnknownTypes();
     createNode("time", "time1");
     setCurrentTime(state().currentTime);
 }

@@ -4,7 +4,7 @@
 namespace mayahost {
 namespace detail {
 
-// Registers "transform", "time" and "mesh" and creates "time1" at the current time.
+// Registers "transform", "time", "mesh" and the unknown node types, and creates "time1" at the current time.
 void startHost();
 
 }  // namespace detail

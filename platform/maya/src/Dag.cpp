@@ -60,7 +60,8 @@ void setParent(NodeObj& node, NodeObj* parent) {
 }
 
 MMatrix localMatrix(NodeObj& node) {
-    if (!node.type->isTransform) return MMatrix();
+    // An unknown transform never evaluates, so its channels are not known either.
+    if (!node.type->isTransform || node.type->isUnknown) return MMatrix();
     const MMatrix scale =
         scaling(number(node, "scaleX"), number(node, "scaleY"), number(node, "scaleZ"));
     const MMatrix rotate = rotation(0, number(node, "rotateX")) *

@@ -8,6 +8,8 @@
 #include "DataObj.h"
 #include "Dag.h"
 #include "Graph.h"
+#include "Names.h"
+#include "UnknownNodes.h"
 
 namespace mayahost {
 namespace detail {
@@ -58,26 +60,13 @@ AttributeInfo describe(const AttributeObj& a) {
     return info;
 }
 
-bool nameTaken(const std::string& name) { return state().nodesByName.count(name) != 0; }
-
-// Maya's rule: a requested name that is taken, or none, gets the lowest free number appended.
-std::string uniqueName(const std::string& requested, const std::string& typeName) {
-    if (!requested.empty() && !nameTaken(requested)) return requested;
-    std::string stem = requested.empty() ? typeName : requested;
-    while (!stem.empty() && std::isdigit(static_cast<unsigned char>(stem.back()))) stem.pop_back();
-    for (int number = 1;; ++number) {
-        const std::string candidate = stem + std::to_string(number);
-        if (!nameTaken(candidate)) return candidate;
-    }
-}
-
 NodeObj* makeNode(NodeType& type, const std::string& name, NodeObj* parent) {
     auto* node = new NodeObj;
     retain(node);
     node->type = &type;
-    node->name = uniqueName(name, type.name);
+    node->name = freeName(name, type.name, type.isDag ? parent : nullptr);
     state().nodes.push_back(node);
-    state().nodesByName[node->name] = node;
+    addName(*node);
     if (type.name == "time") state().timeNodes.push_back(node);
     if (type.isDag) setParent(*node, parent);
     if (type.creator) {
@@ -206,6 +195,7 @@ MObject createNode(const std::string& typeName, const std::string& name, const M
         return MObject();
     }
     NodeObj* above = nodeOf(parent);
+    if (above && type->isDag) becomeTransformIfUnknown(*above);
     if (!parent.isNull() && (!above || !above->type->isTransform || !type->isDag)) {
         setError(error, "createNode: a " + typeName + " cannot be placed under that parent");
         return MObject();
@@ -220,9 +210,19 @@ MStatus deleteNode(const MObject& handle) {
     return MStatus::kSuccess;
 }
 
-MObject findNode(const std::string& name) {
-    const auto found = state().nodesByName.find(name);
-    return found == state().nodesByName.end() ? MObject() : Access::handle(found->second);
+MObject findNode(const std::string& name, std::string* error) {
+    const std::vector<NodeObj*> found = nodesNamed(name);
+    if (found.size() == 1) return Access::handle(found[0]);
+    // Maya's own words, which a scene's author will recognise.
+    setError(error,
+             (found.empty() ? "No object matches name: " : "More than one object matches name: ") +
+                 name);
+    return MObject();
+}
+
+std::string uniquePathName(const MObject& handle) {
+    NodeObj* node = nodeOf(handle);
+    return node ? partialPathName(*node) : std::string();
 }
 
 std::string nodeName(const MObject& handle) {

@@ -5,6 +5,7 @@
 #include "BuiltinTypes.h"
 #include "Dag.h"
 #include "Graph.h"
+#include "Names.h"
 
 namespace mayahost {
 namespace detail {
@@ -125,7 +126,13 @@ void destroyNode(NodeObj* node) {
         host.nodes.pop_back();  // the usual case when a whole scene goes, last made first
     else
         host.nodes.erase(std::remove(host.nodes.begin(), host.nodes.end(), node), host.nodes.end());
-    host.nodesByName.erase(node->name);
+    removeName(*node);
+    auto& kept = host.keptConnections;
+    kept.erase(std::remove_if(kept.begin(), kept.end(),
+                              [node](const KeptConnectionObj& c) {
+                                  return c.sourceNode == node || c.destinationNode == node;
+                              }),
+               kept.end());
     auto& timeNodes = host.timeNodes;
     timeNodes.erase(std::remove(timeNodes.begin(), timeNodes.end(), node), timeNodes.end());
     delete node->ui;  // the viewport object goes before the shape it refers to
@@ -138,6 +145,7 @@ void destroyNode(NodeObj* node) {
     node->slots.clear();
     node->dynamicSlots.clear();
     node->strays.clear();
+    node->unmodelled.reset();
     for (const MObject& handle : node->dynamicAttributes)
         attributeOf(handle)->dynamicOwner = nullptr;
     node->dynamicAttributes.clear();

@@ -24,6 +24,14 @@ struct Connection {
     ConnectionPosition nextFromSource = kNoConnection;
 };
 
+// A connection to or from an attribute the host does not model: kept, never evaluated.
+struct KeptConnectionObj {
+    NodeObj* sourceNode;
+    std::string sourceAttribute;
+    NodeObj* destinationNode;
+    std::string destinationAttribute;
+};
+
 struct HostState {
     std::vector<std::unique_ptr<NodeType>> nodeTypes;
     std::vector<DataType> dataTypes;
@@ -36,7 +44,8 @@ struct HostState {
     // The plugs' slots hold positions in `connections`; removing a connection moves the ones
     // after it, so the positions are rebuilt on the next lookup.
     bool connectionIndexStale = false;
-    std::unordered_map<std::string, NodeObj*> nodesByName;
+    std::vector<KeptConnectionObj> keptConnections;
+    std::unordered_multimap<std::string, NodeObj*> nodesByName;  // by name without the path
     std::vector<Message> messages;
     std::vector<std::string> diagnostics;
     Faults faults;

@@ -4,6 +4,7 @@
 #include <mayahost/Host.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -32,6 +33,15 @@ struct Slot {
     ConnectionPosition lastOutgoing = kNoConnection;
 };
 
+// What the host keeps of a node without modelling it, as the scene wrote it: the type an unknown
+// node stands for, the attributes the scene added, and values of attributes the host has no
+// model of (a later value for the same attribute replaces the earlier one).
+struct Unmodelled {
+    std::string realType;
+    std::vector<std::string> addedAttributes;  // long and short names
+    std::vector<std::pair<std::string, std::string>> values;
+};
+
 // What every access through a handle or a plug reads comes first, with the reference count, so
 // that it shares a cache line: a render walks thousands of nodes at each time step.
 struct NodeObj : Object {
@@ -49,6 +59,7 @@ struct NodeObj : Object {
     MaterialSettings material;  // the shading assigned to a shape
     std::vector<Slot> dynamicSlots;
     std::unordered_map<const AttributeObj*, Slot> strays;  // attributes of no place here
+    std::unique_ptr<Unmodelled> unmodelled;  // made when the node first keeps something
 
     // The attribute's slot, holding its default when first used.
     Slot& slot(const AttributeObj& attribute);

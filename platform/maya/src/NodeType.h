@@ -21,6 +21,7 @@ struct NodeType {
     bool isShape = false;
     bool isDag = false;
     bool isTransform = false;
+    bool isUnknown = false;  // one of Maya's stand-ins for a type it does not know
     PluginObj* plugin = nullptr;      // null for the host's own types
     std::vector<MObject> attributes;  // in the order they were added
 

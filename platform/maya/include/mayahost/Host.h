@@ -96,10 +96,49 @@ MObject createNode(const std::string& typeName, const std::string& name = "",
 // Creates a DAG node under a transform.
 MObject createNode(const std::string& typeName, const std::string& name, const MObject& parent,
                    std::string* error = nullptr);
+// A node of a type the host does not know (one of Maya's own that it does not model, or one of a
+// plug-in that is not loaded), kept as Maya keeps it: an "unknown" node, or an "unknownDag" node
+// when it is created under a parent. Either becomes an "unknownTransform" when a node is placed
+// under it. It holds its name, place, values and connections and never evaluates.
+MObject createUnknownNode(const std::string& realType, const std::string& name,
+                          const MObject& parent = MObject(), std::string* error = nullptr);
+// The type the scene gave the node: for an unknown node the type it stands for.
+std::string realTypeName(const MObject& node);
+// Places a DAG node under a transform (or under the world, for a null parent), as "parent" does.
+MStatus parentNode(const MObject& child, const MObject& parent, std::string* error = nullptr);
+
+// Attributes the host does not model are kept as the scene wrote them, never evaluated: any
+// attribute of an unknown node or of one of the host's own types (which model Maya's only in
+// part), the attributes every Maya node, DAG node or shape inherits on plug-in nodes ("v",
+// "iog[0].og[0].gcl"), and attributes added to a node.
+bool keepsAttribute(const MObject& node, const std::string& attribute);
+MStatus addKeptAttribute(const MObject& node, const std::string& longName,
+                         const std::string& shortName);
+// False (nothing kept) for an attribute the node models or does not keep.
+bool keepValue(const MObject& node, const std::string& attribute, const std::string& text);
+bool keptValue(const MObject& node, const std::string& attribute, std::string* text);
+// A connection with at least one end the host does not model: kept, carrying no value.
+struct KeptConnection {
+    std::string source;  // "node.attribute", the nodes by unique path name
+    std::string destination;
+};
+MStatus keepConnection(const MObject& sourceNode, const std::string& sourceAttribute,
+                       const MObject& destinationNode, const std::string& destinationAttribute,
+                       std::string* error = nullptr);
+// The kept connections to or from the node, in the order they were made.
+std::vector<KeptConnection> keptConnections(const MObject& node);
+
 // Deleting a transform deletes what lies below it; deleting a shape leaves its transform.
 MStatus deleteNode(const MObject& node);
-MObject findNode(const std::string& name);
+// The node a name, full DAG path ("|charA|fur|furShape") or partial path ("fur|furShape") names;
+// ":name" is the same name in the root namespace. A null object when none or several match,
+// with Maya's message ("More than one object matches name: furShape").
+MObject findNode(const std::string& name, std::string* error = nullptr);
+// The node's own name, unique among its siblings only.
 std::string nodeName(const MObject& node);
+// The shortest path that names the node alone: its name, or with as many parents as that needs
+// ("charA|fur|furShape"); Maya's partial path name.
+std::string uniquePathName(const MObject& node);
 MPxNode* userNode(const MObject& node);
 // Where a node's memory lies: the start of its record and of its plug-in object, its values, and
 // the same for each node feeding one of its plugs. For a caller that works through thousands of

@@ -2,6 +2,7 @@
 
 #include "../Dag.h"
 #include "../HostState.h"
+#include "../Names.h"
 
 using namespace mayahost::detail;
 
@@ -83,7 +84,7 @@ MString MDagPath::fullPathName(MStatus* ReturnStatus) const {
 
 MString MDagPath::partialPathName(MStatus* ReturnStatus) const {
     NodeObj* node = valid(fNode, ReturnStatus);
-    return node ? MString(node->name.c_str()) : MString();
+    return node ? MString(mayahost::detail::partialPathName(*node).c_str()) : MString();
 }
 
 MMatrix MDagPath::inclusiveMatrix(MStatus* ReturnStatus) const {
