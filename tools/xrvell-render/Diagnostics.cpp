@@ -6,17 +6,39 @@
 
 namespace xrvell {
 
-Diagnostics::Diagnostics(std::string fileName, std::FILE* output, bool quietWarnings)
-    : file(std::move(fileName)), stream(output), quiet(quietWarnings) {}
+Diagnostics::Diagnostics(std::string fileName, std::FILE* output, int level)
+    : file(std::move(fileName)), stream(output), verbosity(level) {}
 
 void Diagnostics::error(int line, const std::string& text) {
     ++errorCount;
     report(line, "error", text, true);
 }
 
-void Diagnostics::warning(int line, const std::string& text) {
+void Diagnostics::warning(int line, const std::string& text, const std::string& kind) {
     ++warningCount;
-    report(line, "warning", text, !quiet);
+    if (verbosity >= 2) return report(line, "warning", text, true);
+    const std::string& key = kind.empty() ? text : kind;
+    for (Held& same : held) {
+        if (same.kind == key) {
+            ++same.more;
+            return;
+        }
+    }
+    held.push_back(Held{key, line, text, 0});
+}
+
+void Diagnostics::note(int line, const std::string& text) {
+    if (verbosity >= 2) report(line, "note", text, true);
+}
+
+void Diagnostics::flush() {
+    for (const Held& warning : held) {
+        std::string text = warning.text;
+        if (warning.more > 0)
+            text += " (and " + std::to_string(warning.more) + " more like it; -v 2 lists each)";
+        report(warning.line, "warning", text, verbosity >= 1);
+    }
+    held.clear();
 }
 
 // Scene text quoted in a message may hold any byte: each message stays one visible line.

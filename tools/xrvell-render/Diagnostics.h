@@ -6,28 +6,44 @@
 namespace xrvell {
 
 // Problems found in a scene file, reported as "FILE:LINE: error: text" (or "warning:") on a
-// stream as they are found and kept for whoever asks afterwards. Control characters in a
-// report are shown as escapes (see VisibleText).
+// stream and kept for whoever asks afterwards. Control characters in a report are shown as
+// escapes (see VisibleText). Errors are shown as they are found. At the default verbosity (1)
+// the warnings of one kind are held back and shown as one line when the reading ends, the first
+// with a count of the others; verbosity 2 shows each warning as it comes, and notes besides;
+// verbosity 0 shows errors only, though warnings are still counted.
 class Diagnostics {
 public:
-    // A null stream only keeps the lines; quiet drops warnings from the stream, not the count.
-    Diagnostics(std::string file, std::FILE* stream, bool quiet = false);
+    // A null stream only keeps the lines.
+    Diagnostics(std::string file, std::FILE* stream, int verbosity = 1);
 
     void error(int line, const std::string& text);
-    void warning(int line, const std::string& text);
+    // Warnings of the same kind are told as one; a warning's text is its kind unless given.
+    void warning(int line, const std::string& text, const std::string& kind = "");
+    // What a closer look would want to know, at verbosity 2 only.
+    void note(int line, const std::string& text);
+    // Shows the warnings held back, in the order their kinds first came.
+    void flush();
 
     int errors() const { return errorCount; }
     int warnings() const { return warningCount; }
+    // The lines shown so far (at verbosity 0, what verbosity 1 would show).
     const std::vector<std::string>& lines() const { return reported; }
 
 private:
+    struct Held {
+        std::string kind;
+        int line;
+        std::string text;
+        int more;
+    };
     void report(int line, const char* kind, const std::string& text, bool show);
 
     std::string file;
     std::FILE* stream;
-    bool quiet;
+    int verbosity;
     int errorCount = 0;
     int warningCount = 0;
+    std::vector<Held> held;
     std::vector<std::string> reported;
 };
 

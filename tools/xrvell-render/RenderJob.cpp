@@ -129,7 +129,7 @@ bool RenderJob::load(const std::string& sceneText) {
         if (options.verbosity >= 1)
             std::fprintf(log, "xrvell-render: warning: %s\n", VisibleText::of(problem).c_str());
     }
-    Diagnostics diagnostics(options.scene, log, options.verbosity == 0);
+    Diagnostics diagnostics(options.scene, log, options.verbosity);
     SceneReader reader(diagnostics,
                        [this](const std::string& name) { return plugins->require(name); });
     const bool read = reader.read(sceneText);

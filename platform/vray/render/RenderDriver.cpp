@@ -181,7 +181,7 @@ void RenderDriver::findSources(bool reuseInstances) {
         if (!isGeometrySource(node)) continue;
         Source source;
         source.node = node;
-        source.name = mayahost::nodeName(node);
+        source.name = mayahost::uniquePathName(node);
         source.request.reset(new GeomRequest(registry, reuseInstances, &instanceCounter));
         const std::vector<mayahost::MemoryBlock> blocks = mayahost::nodeMemory(node);
         source.firstBlock = nodeBlocks.size();
