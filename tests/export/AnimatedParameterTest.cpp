@@ -145,12 +145,14 @@ TEST_F(AnimatedParameter, EveryReadAsksTheFurNodeAgainAndReplacesTheStoredText) 
 }
 
 TEST_F(AnimatedParameter, WithoutAFurNodeTheFileIsEmpty) {
+    fileKeys->createKeyFrame(4.0, 0);
+    ASSERT_STREQ(readFile(0.0), "/cache/hair.0004.xvc");
     std::string error;
     ASSERT_EQ(mayahost::disconnect(mayahost::findPlug(fur, "outputData"),
                                    mayahost::findPlug(bridge, "inputData"), &error),
               MStatus::kSuccess)
         << error;
-    fileKeys->createKeyFrame(4.0, 0);
+    furCalls().clear();
     EXPECT_STREQ(readFile(0.0), "");
     samplesKeys->createKeyFrame(4.0, 0);
     samplesKeys->clearKeyFrames(1e30, 0);
