@@ -41,6 +41,27 @@ TEST_F(AnimatedParameter, OnlyTheTwoAnimatedParametersAnswerTheKeyframeInterface
     EXPECT_EQ(fileKeys->numKeyframesPerFrame(), 1);
 }
 
+// An interface added under an id the parameter answers itself never hides its own; each of the
+// two takes the other's interfaces, which carry the same ids.
+TEST_F(AnimatedParameter, AddedInterfacesNeverShadowTheirOwn) {
+    VUtils::VRayPluginParameter* const both[] = {parameter(*request, "sampleGenerator"),
+                                                 parameter(*request, "file")};
+    for (int which = 0; which < 2; ++which) {
+        VUtils::VRayPluginParameter* param = both[which];
+        for (unsigned long id :
+             {EXT_ANIMATEDPARAM, EXT_SETTABLE_PARAM, EXT_CLONEABLE_PARAM, EXT_RTTEX, EXT_TEXTURE,
+              EXT_TEXTURE_FLOAT, EXT_TEXTURE_INT, EXT_TEXTURE_TRANSFORM, EXT_TEXTURE_VECTOR}) {
+            PluginInterface* own = param->newInterface(id);
+            PluginInterface* shadow = both[1 - which]->newInterface(id);
+            ASSERT_NE(own, nullptr) << param->getName() << " " << id;
+            ASSERT_NE(shadow, own);
+            param->addInterface(shadow, 0);
+            EXPECT_EQ(param->newInterface(id), own) << param->getName() << " " << id;
+            EXPECT_TRUE(param->removeInterface(shadow));
+        }
+    }
+}
+
 TEST_F(AnimatedParameter, SamplesKeepTheirOrderAndDuplicates) {
     for (double time : {1.25, 1.0, 1.25}) samplesKeys->createKeyFrame(time, 0);
     EXPECT_EQ(samples(*request), (std::vector<float>{1.25f, 1.0f, 1.25f}));
