@@ -1,5 +1,6 @@
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "ExportScene.h"
 
@@ -41,6 +42,27 @@ TEST_F(AnimatedParameter, OnlyTheTwoAnimatedParametersAnswerTheKeyframeInterface
     EXPECT_EQ(fileKeys->numKeyframesPerFrame(), 1);
 }
 
+// An interface added under an id the parameter answers itself never hides its own; each of the
+// two takes the other's interfaces, which carry the same ids.
+TEST_F(AnimatedParameter, AddedInterfacesNeverShadowTheirOwn) {
+    VUtils::VRayPluginParameter* const both[] = {parameter(*request, "sampleGenerator"),
+                                                 parameter(*request, "file")};
+    for (int which = 0; which < 2; ++which) {
+        VUtils::VRayPluginParameter* param = both[which];
+        for (unsigned long id :
+             {EXT_ANIMATEDPARAM, EXT_SETTABLE_PARAM, EXT_CLONEABLE_PARAM, EXT_RTTEX, EXT_TEXTURE,
+              EXT_TEXTURE_FLOAT, EXT_TEXTURE_INT, EXT_TEXTURE_TRANSFORM, EXT_TEXTURE_VECTOR}) {
+            PluginInterface* own = param->newInterface(id);
+            PluginInterface* shadow = both[1 - which]->newInterface(id);
+            ASSERT_NE(own, nullptr) << param->getName() << " " << id;
+            ASSERT_NE(shadow, own);
+            param->addInterface(shadow, 0);
+            EXPECT_EQ(param->newInterface(id), own) << param->getName() << " " << id;
+            EXPECT_TRUE(param->removeInterface(shadow));
+        }
+    }
+}
+
 TEST_F(AnimatedParameter, SamplesKeepTheirOrderAndDuplicates) {
     for (double time : {1.25, 1.0, 1.25}) samplesKeys->createKeyFrame(time, 0);
     EXPECT_EQ(samples(*request), (std::vector<float>{1.25f, 1.0f, 1.25f}));
@@ -53,22 +75,37 @@ TEST_F(AnimatedParameter, AKeyframeOfAnotherIndexChangesNothingAndReachesNoFurNo
     EXPECT_TRUE(furCalls().empty());
 }
 
+// The time is the scene's, in the scene's unit, narrowed to float on its way.
 TEST_F(AnimatedParameter, TheFurNodeGetsTheSceneTimeNotTheKeyframeTime) {
-    mayahost::setCurrentTime(MTime(1.0 / 3.0, MTime::kFilm));
-    samplesKeys->createKeyFrame(5.0, 0);
-    const auto updated = callsOf(FurOperation::UpdateRenderSample);
-    ASSERT_EQ(updated.size(), 1u);
-    EXPECT_EQ(updated[0].time, static_cast<double>(static_cast<float>(1.0 / 3.0)));
-    EXPECT_EQ(samples(*request), std::vector<float>{5.0f});
+    const std::pair<MTime::Unit, double> sceneTimes[] = {
+        {MTime::kFilm, 1.0 / 3.0}, {MTime::kNTSCFrame, 1001.3}, {MTime::kPALFrame, -2.7e-3}};
+    for (const auto& scene : sceneTimes) {
+        MTime::setUIUnit(scene.first);
+        mayahost::setCurrentTime(MTime(scene.second, scene.first));
+        furCalls().clear();
+        samplesKeys->createKeyFrame(0.1, 0);
+        const auto updated = callsOf(FurOperation::UpdateRenderSample);
+        ASSERT_EQ(updated.size(), 1u);
+        EXPECT_EQ(updated[0].time, static_cast<double>(static_cast<float>(scene.second)))
+            << scene.second;
+    }
+    EXPECT_EQ(samples(*request), std::vector<float>(3, 0.1f));
 }
 
+// A sample is compared with the clearing time as a double: the float nearest 1001.3 lies below
+// it and goes, the float nearest 1001.7 lies above it and stays.
 TEST_F(AnimatedParameter, ClearingDropsOnlyEarlierSamplesAndTellsTheFurNode) {
-    for (double time : {2.0, 1.0, 1.5}) samplesKeys->createKeyFrame(time, 0);
-    samplesKeys->clearKeyFrames(1.5, 7);
-    EXPECT_EQ(samples(*request), (std::vector<float>{2.0f, 1.5f}));
-    const auto before = callsOf(FurOperation::RemoveRenderSamplesBefore);
-    ASSERT_EQ(before.size(), 1u);
-    EXPECT_EQ(before[0].time, 1.5);
+    for (double time : {1001.7, 1001.3, 1001.25, 1001.0}) samplesKeys->createKeyFrame(time, 0);
+    samplesKeys->clearKeyFrames(1001.25, 7);
+    EXPECT_EQ(samples(*request), (std::vector<float>{1001.7f, 1001.3f, 1001.25f}));
+    samplesKeys->clearKeyFrames(1001.3, 0);
+    EXPECT_EQ(samples(*request), std::vector<float>{1001.7f});
+    samplesKeys->clearKeyFrames(1001.7, 0);
+    EXPECT_EQ(samples(*request), std::vector<float>{1001.7f});
+    std::vector<double> passedOn;
+    for (const auto& call : callsOf(FurOperation::RemoveRenderSamplesBefore))
+        passedOn.push_back(call.time);
+    EXPECT_EQ(passedOn, (std::vector<double>{1001.25, 1001.3, 1001.7}));
     EXPECT_TRUE(callsOf(FurOperation::RemoveRenderSamples).empty());
 }
 
@@ -145,12 +182,14 @@ TEST_F(AnimatedParameter, EveryReadAsksTheFurNodeAgainAndReplacesTheStoredText) 
 }
 
 TEST_F(AnimatedParameter, WithoutAFurNodeTheFileIsEmpty) {
+    fileKeys->createKeyFrame(4.0, 0);
+    ASSERT_STREQ(readFile(0.0), "/cache/hair.0004.xvc");
     std::string error;
     ASSERT_EQ(mayahost::disconnect(mayahost::findPlug(fur, "outputData"),
                                    mayahost::findPlug(bridge, "inputData"), &error),
               MStatus::kSuccess)
         << error;
-    fileKeys->createKeyFrame(4.0, 0);
+    furCalls().clear();
     EXPECT_STREQ(readFile(0.0), "");
     samplesKeys->createKeyFrame(4.0, 0);
     samplesKeys->clearKeyFrames(1e30, 0);

@@ -129,6 +129,40 @@ INSTANTIATE_TEST_SUITE_P(EachReadAttribute, MissingFurSetting, ::testing::Values
 
 namespace {
 
+// The fur plug-in built with its node type named "xrVellMayaImpostor": the fur node's output,
+// settings and operations under a name that only starts like the fur node's.
+class ImpostorFur : public FurSettingsScene {
+protected:
+    std::string furPluginPath() const override {
+        return std::string(FUR_VARIANT_DIR) + "/furImpostor.so";
+    }
+};
+
+}  // namespace
+
+TEST_F(ImpostorFur, IsNotTakenForTheFurNode) {
+    ASSERT_STREQ(MFnDependencyNode(fur).typeName().asChar(), "xrVellMayaImpostor");
+    setPass(Pass::First);
+    mayahost::findPlug(fur, "cacheFilePattern").setString("/cache/hair.####.xvc");
+    auto request = newRequest();
+    ASSERT_EQ(translate(bridge, *request), 0);
+    for (const FurSetting& setting : furSettings())
+        EXPECT_EQ(value(*request, setting.parameter), setting.initial) << setting.parameter;
+    EXPECT_EQ(value(*request, "obeyROI"), intValue(0));
+    EXPECT_EQ(value(*request, "maxROI"), vectorValue(0, 0, 0));
+    keyframes(*request, "sampleGenerator")->createKeyFrame(1001.3, 0);
+    keyframes(*request, "sampleGenerator")->clearKeyFrames(1e30, 0);
+    keyframes(*request, "file")->createKeyFrame(12.0, 0);
+    EXPECT_EQ(value(*request, "file"), textValue(""));
+    EXPECT_TRUE(furCalls().empty());
+    EXPECT_TRUE(mayahost::messages().empty());
+
+    const char* const boxError = "xrVellMayaVRay accessing invalid node - getConnectedBoundingBox!";
+    EXPECT_EQ(stderrOf([&] { shapeBox(bridge); }), std::string("// Error: ") + boxError + "\n");
+}
+
+namespace {
+
 enum class Upstream { Disconnected, AnotherTypeConnected };
 
 void PrintTo(Upstream upstream, std::ostream* out) {

@@ -41,6 +41,8 @@ TEST_F(FurForwarding, EvaluationCallsTheFurNodeInTheIntendedSlots) {
     createFur("bystander");
     connectFur(fur, bridge);
     evaluate();
+    // Nothing is dirty now, so a second read takes the stored result without a compute.
+    EXPECT_EQ(mayahost::findPlug(bridge, "vrayGeomResult").asInt(), 0);
     const std::vector<FurOperation> expected = {
         FurOperation::RemoveRenderSamples, FurOperation::UpdateRenderSample,
         FurOperation::GetObeyROI, FurOperation::GetROIBoundingBox};

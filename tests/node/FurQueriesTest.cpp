@@ -87,14 +87,17 @@ TEST_F(FurQueries, ANodeOfAnotherTypeGivesAnEmptyBoxAndTheErrorOncePerCall) {
     }
 }
 
+// Corners no float holds: the box keeps its doubles on the way.
 TEST_F(FurQueries, TheFurNodesBoxComesBackSilentlyFromTheFurNode) {
     MObject fur = createFur("fur");
-    setFurBox(fur, MPoint(1, 2, 3), MPoint(3, 4, 5));
+    const MPoint min(0.1, -2.7e-3, -1001.3);
+    const MPoint max(1001.3, 2.7e-3, 1e10 + 0.5);
+    setFurBox(fur, min, max);
     connectFur(fur, bridge);
     std::string err;
     const MBoundingBox box = boxShowing(&err);
-    EXPECT_EQ(box.min(), MPoint(1, 2, 3));
-    EXPECT_EQ(box.max(), MPoint(3, 4, 5));
+    EXPECT_EQ(box.min(), min);
+    EXPECT_EQ(box.max(), max);
     EXPECT_EQ(err, "");
     EXPECT_TRUE(mayahost::messages().empty());
     ASSERT_EQ(furCalls().size(), 1u);
@@ -102,7 +105,7 @@ TEST_F(FurQueries, TheFurNodesBoxComesBackSilentlyFromTheFurNode) {
     EXPECT_EQ(furCalls()[0].operation, FurOperation::BoundingBox);
 
     // Maya's own query of the bridge's extent lands on the same box.
-    EXPECT_EQ(shapeBox(bridge).max(), MPoint(3, 4, 5));
+    EXPECT_EQ(shapeBox(bridge).max(), max);
     EXPECT_EQ(furCalls().size(), 2u);
 }
 

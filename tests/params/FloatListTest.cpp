@@ -239,7 +239,7 @@ TEST(FloatListCounts, NegativeCountIsReportedAndAppendStillSafe) {
     EXPECT_EQ(std::vector<float>{1}, elementsOf(list));
 }
 
-TEST(FloatListNesting, OpenListHidesTheCountUntilClosed) {
+TEST(FloatListNesting, OnlyLevelZeroShowsTheCount) {
     DefFloatListParam list("l");
     EXPECT_EQ(0, list.getCount(0.0));
     appendValues(list, 2);
@@ -251,6 +251,12 @@ TEST(FloatListNesting, OpenListHidesTheCountUntilClosed) {
     EXPECT_EQ(2, list.getFloatList(0.0).length);
     EXPECT_EQ(1.0f, list.getFloat(1, 0.0));
     list.closeList(nullptr);
+    EXPECT_EQ(2, list.getCount(0.0));
+    // A close without its open takes the level below zero: still no count.
+    list.closeList(nullptr);
+    EXPECT_EQ(-1, list.getCount(0.0));
+    EXPECT_EQ(2, list.getFloatList(0.0).length);
+    list.openList(0);
     EXPECT_EQ(2, list.getCount(0.0));
 }
 

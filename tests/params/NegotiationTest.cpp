@@ -3,6 +3,7 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "FakeInterface.h"
@@ -26,6 +27,18 @@ std::vector<std::unique_ptr<VRayPluginParameter>> everyParameterClass() {
     return params;
 }
 
+// The interfaces every parameter class answers itself, and the names they report.
+const std::pair<unsigned long, const char*> kBuiltIns[] = {
+    {EXT_RTTEX, "EXT_RTTEX"},
+    {EXT_TEXTURE, "EXT_TEXTURE"},
+    {EXT_TEXTURE_FLOAT, "EXT_TEXTURE_FLOAT"},
+    {EXT_TEXTURE_INT, "EXT_TEXTURE_INT"},
+    {EXT_TEXTURE_TRANSFORM, "EXT_TEXTURE_TRANSFORM"},
+    {EXT_TEXTURE_VECTOR, "EXT_TEXTURE_VECTOR"},
+    {EXT_SETTABLE_PARAM, "EXT_SETTABLE_PARAM"},
+    {EXT_CLONEABLE_PARAM, "EXT_CLONEABLE_PARAM"},
+};
+
 }  // namespace
 
 TEST(NewInterface, UnknownIdsAreComparedInSixtyFourBits) {
@@ -38,16 +51,32 @@ TEST(NewInterface, UnknownIdsAreComparedInSixtyFourBits) {
     }
 }
 
-TEST(NewInterface, AddedInterfacesAreFoundAfterTheBuiltIns) {
+// Ids that differ only above bit 31 are different interfaces.
+TEST(NewInterface, AddedInterfacesComeAfterTheBuiltInsAndMatchInSixtyFourBits) {
+    const unsigned long high = 1ul << 32;
     std::vector<std::string> releases;
     FakeInterface extra(0x1234, "EXTRA", &releases);
-    FakeInterface shadow(EXT_TEXTURE_FLOAT, "SHADOW", &releases);
-    VUtils::DefFloatParam param("f", 1.0f);
-    EXPECT_EQ(nullptr, param.newInterface(0x1234));
-    EXPECT_TRUE(param.addInterface(&extra, 0));
-    EXPECT_TRUE(param.addInterface(&shadow, 0));
-    EXPECT_EQ(&extra, param.newInterface(0x1234));
-    EXPECT_STREQ("EXT_TEXTURE_FLOAT", param.newInterface(EXT_TEXTURE_FLOAT)->getInterfaceName());
+    FakeInterface wide(high | 0x5678, "WIDE", &releases);
+    std::vector<std::unique_ptr<FakeInterface>> shadows;
+    for (const auto& builtIn : kBuiltIns)
+        shadows.emplace_back(new FakeInterface(builtIn.first, "SHADOW", &releases));
+    for (const auto& param : everyParameterClass()) {
+        SCOPED_TRACE(param->getName());
+        EXPECT_EQ(nullptr, param->newInterface(0x1234));
+        for (const auto& shadow : shadows) EXPECT_TRUE(param->addInterface(shadow.get(), 0));
+        EXPECT_TRUE(param->addInterface(&extra, 0));
+        EXPECT_TRUE(param->addInterface(&wide, 0));
+        for (const auto& builtIn : kBuiltIns) {
+            PluginInterface* found = param->newInterface(builtIn.first);
+            ASSERT_NE(nullptr, found) << builtIn.second;
+            EXPECT_STREQ(builtIn.second, found->getInterfaceName());
+            EXPECT_EQ(nullptr, param->newInterface(high | builtIn.first)) << builtIn.second;
+        }
+        EXPECT_EQ(&extra, param->newInterface(0x1234));
+        EXPECT_EQ(nullptr, param->newInterface(high | 0x1234));
+        EXPECT_EQ(&wide, param->newInterface(high | 0x5678));
+        EXPECT_EQ(nullptr, param->newInterface(0x5678));
+    }
     EXPECT_TRUE(releases.empty());
 }
 

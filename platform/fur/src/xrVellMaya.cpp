@@ -105,7 +105,13 @@ MStatus addCorners(const NumericDefinition (&definitions)[6], MObject (&handles)
 
 }  // namespace
 
+#ifdef XRVELL_FUR_NODE_TYPE
+// A test build whose node differs from the fur node in its type name alone, to show that the
+// bridge goes by that name.
+const char* const xrVellMaya::typeName = XRVELL_FUR_NODE_TYPE;
+#else
 const char* const xrVellMaya::typeName = "xrVellMaya";
+#endif
 const MTypeId xrVellMaya::id(0x1158C5);
 
 xrVellMaya::xrVellMaya() = default;

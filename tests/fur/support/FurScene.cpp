@@ -18,8 +18,21 @@ void FurScene::loadFur(const std::string& path) {
     ASSERT_TRUE(load) << load.error;
 }
 
+namespace {
+
+// Every build of the fur plug-in registers its node under this id, whatever the type's name.
+const unsigned int kFurNodeId = 0x1158C5;
+
+mayahost::NodeTypeInfo loadedFurType() {
+    mayahost::NodeTypeInfo type;
+    mayahost::findNodeTypeById(kFurNodeId, &type);
+    return type;
+}
+
+}  // namespace
+
 MObject FurScene::createFur(const std::string& name) {
-    return mayahost::createNode("xrVellMaya", name);
+    return mayahost::createNode(loadedFurType().name, name);
 }
 
 MObject FurScene::createBridge(const std::string& name) {
@@ -68,7 +81,8 @@ MBoundingBox FurScene::shapeBox(const MObject& shape) {
 }
 
 xrvellfur::FurCallLog& FurScene::furCalls() {
-    xrvellfur::FurCallLog* log = xrvellfur::furCallLog(kFurPluginPath);
+    const std::string path = loadedFurType().pluginPath;
+    xrvellfur::FurCallLog* log = path.empty() ? nullptr : xrvellfur::furCallLog(path);
     if (!log) {
         ADD_FAILURE() << "the fur plug-in is not loaded";
         static xrvellfur::FurCallLog none;

@@ -14,6 +14,7 @@ extern const char* const kFurPluginPath;
 class FurScene : public HostTest {
 public:
     static void loadFur(const std::string& path = kFurPluginPath);
+    // A node of the type the loaded build of the fur plug-in registers.
     static MObject createFur(const std::string& name = "");
     static MObject createBridge(const std::string& name = "");
     // fur.outputData -> bridge.inputData; fails the test if the host refuses.
@@ -27,6 +28,7 @@ public:
                             double z);
     // What Maya gets when it asks a surface shape for its extent.
     static MBoundingBox shapeBox(const MObject& shape);
+    // The calls the nodes of the loaded build of the fur plug-in received.
     static xrvellfur::FurCallLog& furCalls();
 
 protected:
