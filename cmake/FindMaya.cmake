@@ -6,6 +6,8 @@
 include(FindPackageHandleStandardArgs)
 
 set(_maya_components OpenMaya OpenMayaUI OpenMayaRender Foundation)
+# Maya 2019 to 2023 on Linux are built with the old libstdc++ string ABI.
+set(Maya_LINUX_DEFINITIONS LINUX LINUX_64 _BOOL REQUIRE_IOSTREAM _GLIBCXX_USE_CXX11_ABI=0)
 
 if(MAYA_LOCATION)
   find_path(Maya_INCLUDE_DIR maya/MFnPlugin.h PATHS "${MAYA_LOCATION}/include" NO_DEFAULT_PATH)
@@ -21,8 +23,7 @@ if(MAYA_LOCATION)
       set_target_properties(Maya::${_c} PROPERTIES
         IMPORTED_LOCATION "${Maya_${_c}_LIBRARY}"
         INTERFACE_INCLUDE_DIRECTORIES "${Maya_INCLUDE_DIR}"
-        # Maya 2019 to 2023 on Linux are built with the old libstdc++ string ABI.
-        INTERFACE_COMPILE_DEFINITIONS "LINUX;LINUX_64;_BOOL;REQUIRE_IOSTREAM;_GLIBCXX_USE_CXX11_ABI=0"
+        INTERFACE_COMPILE_DEFINITIONS "${Maya_LINUX_DEFINITIONS}"
         # The legacy viewport classes are marked deprecated in Maya 2022 but still work.
         INTERFACE_COMPILE_OPTIONS "-fPIC;-Wno-deprecated-declarations")
     endif()

@@ -7,7 +7,7 @@
 
 MStatus initializePlugin(MObject obj) {
     MStatus status = MStatus::kSuccess;
-    MFnPlugin plugin(obj, "Tarnwick Labs", "1.0", "Any", &status);
+    MFnPlugin plugin(obj, "Tarnwick Labs", XRVELL_VERSION, "Any", &status);
     // Reported but not fatal: the load is judged by the registration alone.
     if (status != MStatus::kSuccess) status.perror("failed to initialize plugin");
 

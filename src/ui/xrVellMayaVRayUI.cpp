@@ -3,6 +3,7 @@
 #include <maya/MBoundingBox.h>
 #include <maya/MDagPath.h>
 #include <maya/MMaterial.h>
+#include <maya/MMatrix.h>
 #include <maya/MPoint.h>
 #include <maya/MPxSurfaceShape.h>
 #include <maya/MSelectionMask.h>

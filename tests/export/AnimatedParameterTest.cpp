@@ -1,3 +1,5 @@
+#include <maya/MString.h>
+
 #include <cmath>
 #include <limits>
 #include <utility>

@@ -1,3 +1,5 @@
+#include <maya/MString.h>
+
 #include "ExportScene.h"
 #include "RenderDriver.h"
 

@@ -1,6 +1,7 @@
 // The host's DAG: parenting, path names, transform matrices and object-space boxes.
 #include <maya/MDagPath.h>
 #include <maya/MFnDagNode.h>
+#include <maya/MMatrix.h>
 
 #include <cmath>
 

@@ -1,7 +1,9 @@
 // The legacy viewport's value classes and the geometry types they use.
 #include <maya/MBoundingBox.h>
+#include <maya/MDagPath.h>
 #include <maya/MDrawRequestQueue.h>
 #include <maya/MMaterial.h>
+#include <maya/MMatrix.h>
 #include <maya/MSelectionList.h>
 #include <maya/MSelectionMask.h>
 

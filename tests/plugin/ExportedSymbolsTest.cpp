@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <map>
 #include <set>
@@ -39,6 +40,12 @@ std::map<std::string, DynamicSymbol> definedDynamicSymbols(const std::string& li
     return symbols;
 }
 
+// The built library, or the copy named by XRVELL_PLUGIN_UNDER_TEST (the installed module's).
+const char* pluginUnderTest() {
+    const char* path = std::getenv("XRVELL_PLUGIN_UNDER_TEST");
+    return path ? path : kBridgePath;
+}
+
 }  // namespace
 
 TEST(ExportedSymbols, ExactlyTheEntryPointsByTheirMangledNamesAndTheVersionRecord) {
@@ -48,12 +55,12 @@ TEST(ExportedSymbols, ExactlyTheEntryPointsByTheirMangledNamesAndTheVersionRecor
         "_Z18uninitializePluginN8Autodesk4Maya16OpenMaya202200007MObjectE",
     };
     std::set<std::string> names;
-    for (const auto& symbol : definedDynamicSymbols(kBridgePath)) names.insert(symbol.first);
+    for (const auto& symbol : definedDynamicSymbols(pluginUnderTest())) names.insert(symbol.first);
     EXPECT_EQ(names, expected);
 }
 
 TEST(ExportedSymbols, ApiVersionIsNineBytesOfWritableData) {
-    const auto symbols = definedDynamicSymbols(kBridgePath);
+    const auto symbols = definedDynamicSymbols(pluginUnderTest());
     const auto version = symbols.find("MApiVersion");
     ASSERT_NE(version, symbols.end());
     EXPECT_EQ(version->second.size, 9u);
@@ -64,7 +71,7 @@ TEST(ExportedSymbols, ApiVersionIsNineBytesOfWritableData) {
 }
 
 TEST(ExportedSymbols, ApiVersionIsTheMaya2022RecordWithOneTerminator) {
-    void* library = dlopen(kBridgePath, RTLD_NOW | RTLD_LOCAL);
+    void* library = dlopen(pluginUnderTest(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     const char* version = static_cast<const char*>(dlsym(library, "MApiVersion"));
     ASSERT_NE(version, nullptr);

@@ -1,6 +1,7 @@
 #include <maya/MFnData.h>
 #include <maya/MFnNumericData.h>
 #include <maya/MFnUnitAttribute.h>
+#include <maya/MString.h>
 
 #include "HostTest.h"
 

@@ -2,6 +2,7 @@
 // does to the scene, and the exact message for each kind of bad input.
 #include <maya/MPlug.h>
 #include <maya/MPlugArray.h>
+#include <maya/MString.h>
 #include <maya/MTime.h>
 #include <mayahost/Host.h>
 

@@ -1,5 +1,7 @@
 #pragma once
 #include <maya/MPxData.h>
+#include <maya/MString.h>
+#include <maya/MTypeId.h>
 
 // What the fur node's output carries downstream. The stand-in's data has no content: only its
 // type matters to the nodes it is connected to.

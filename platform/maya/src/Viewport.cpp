@@ -4,7 +4,9 @@
 
 #include <maya/MDrawInfo.h>
 #include <maya/MDrawRequestQueue.h>
+#include <maya/MPointArray.h>
 #include <maya/MSelectInfo.h>
+#include <maya/MSelectionList.h>
 
 #include "Dag.h"
 #include "HostState.h"
@@ -13,20 +15,21 @@ namespace mayahost {
 namespace detail {
 
 QueuedRequest Access::describe(const MDrawRequest& request) {
+    const DrawRequestState& state = *request.fState;
     QueuedRequest info;
-    NodeObj* node = nodeOf(request.fPath.node());
+    NodeObj* node = nodeOf(state.path.node());
     info.path = node ? fullPathName(*node) : "";
-    info.token = request.fToken;
-    info.style = request.fStyle;
-    info.status = request.fStatus;
-    info.colorSet = request.fColorTable >= 0;
-    info.colorIndex = request.fColorIndex;
-    info.colorTable = request.fColorTable;
-    info.transparent = request.fTransparent;
-    info.materialAssigned = request.fMaterial.fAssigned;
-    info.materialEvaluated = request.fMaterial.fEvaluated;
-    info.geometry = contents(request.fData).geometry;
-    info.textureEvaluated = contents(request.fData).textureEvaluated;
+    info.token = state.token;
+    info.style = state.style;
+    info.status = state.status;
+    info.colorSet = state.colorTable >= 0;
+    info.colorIndex = state.colorIndex;
+    info.colorTable = state.colorTable;
+    info.transparent = state.transparent;
+    info.materialAssigned = state.material.fAssigned;
+    info.materialEvaluated = state.material.fEvaluated;
+    info.geometry = contents(state.data).geometry;
+    info.textureEvaluated = contents(state.data).textureEvaluated;
     return info;
 }
 

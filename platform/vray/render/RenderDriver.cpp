@@ -1,6 +1,7 @@
 #include "RenderDriver.h"
 
 #include <maya/MPlug.h>
+#include <maya/MString.h>
 #include <mayahost/Host.h>
 #include <mayahost/Renderer.h>
 

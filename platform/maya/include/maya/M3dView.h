@@ -1,4 +1,5 @@
 #pragma once
+#include <maya/MObject.h>
 #include <maya/MStatus.h>
 
 OPENMAYA_NAMESPACE_OPEN

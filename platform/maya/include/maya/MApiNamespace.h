@@ -102,6 +102,7 @@ namespace mayahost {
 namespace detail {
 struct Access;
 struct DrawQueue;
+struct DrawRequestState;
 struct Object;
 struct SelectionItems;
 struct SelectionRecord;

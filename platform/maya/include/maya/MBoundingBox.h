@@ -1,5 +1,4 @@
 #pragma once
-#include <maya/MMatrix.h>
 #include <maya/MPoint.h>
 
 OPENMAYA_NAMESPACE_OPEN

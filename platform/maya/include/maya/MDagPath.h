@@ -1,8 +1,6 @@
 #pragma once
-#include <maya/MMatrix.h>
 #include <maya/MObject.h>
 #include <maya/MStatus.h>
-#include <maya/MString.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

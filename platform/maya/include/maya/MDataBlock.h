@@ -1,6 +1,5 @@
 #pragma once
 #include <maya/MDataHandle.h>
-#include <maya/MPlug.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

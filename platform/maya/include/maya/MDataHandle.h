@@ -1,7 +1,5 @@
 #pragma once
 #include <maya/MObject.h>
-#include <maya/MString.h>
-#include <maya/MTime.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

@@ -1,6 +1,5 @@
 #pragma once
 #include <maya/M3dView.h>
-#include <maya/MDagPath.h>
 #include <maya/MDrawRequest.h>
 
 OPENMAYA_NAMESPACE_OPEN
@@ -23,7 +22,7 @@ public:
 
 private:
     friend struct mayahost::detail::Access;
-    MDagPath fPath;
+    MObject fPathNode;  // the host has no instancing: a path is known by its last node
     M3dView fView;
     M3dView::DisplayStyle fStyle;
     M3dView::DisplayStatus fStatus;

@@ -1,8 +1,6 @@
 #pragma once
 #include <maya/M3dView.h>
-#include <maya/MDagPath.h>
-#include <maya/MDrawData.h>
-#include <maya/MMaterial.h>
+#include <maya/MObject.h>
 
 OPENMAYA_NAMESPACE_OPEN
 
@@ -36,16 +34,8 @@ public:
 
 private:
     friend struct mayahost::detail::Access;
-    M3dView fView;
-    MDagPath fPath;
-    MDrawData fData;
-    MMaterial fMaterial;
-    M3dView::DisplayStatus fStatus;
-    M3dView::DisplayStyle fStyle;
-    int fColorIndex;
-    int fColorTable;  // -1 until a colour is set
-    bool fTransparent;
-    int fToken;
+    // Path, data and material are only declared here, as in Maya's own header.
+    mayahost::detail::DrawRequestState* fState;
 };
 
 OPENMAYA_NAMESPACE_CLOSE

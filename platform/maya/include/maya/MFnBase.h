@@ -1,5 +1,4 @@
 #pragma once
-#include <maya/MObject.h>
 #include <maya/MStatus.h>
 
 OPENMAYA_NAMESPACE_OPEN
@@ -18,7 +17,8 @@ public:
 
 protected:
     MFnBase();
-    MObject fObject;
+    // Held apart because MObject is only declared here, as in Maya's own header.
+    MObject* fObject;
 };
 
 OPENMAYA_NAMESPACE_CLOSE

@@ -1,6 +1,4 @@
 #pragma once
-#include <maya/MBoundingBox.h>
-#include <maya/MDagPath.h>
 #include <maya/MFnDependencyNode.h>
 
 OPENMAYA_NAMESPACE_OPEN

@@ -1,6 +1,5 @@
 #pragma once
 #include <maya/MFnBase.h>
-#include <maya/MPlug.h>
 #include <maya/MString.h>
 #include <maya/MTypeId.h>
 

@@ -2,8 +2,6 @@
 #include <maya/MFnBase.h>
 #include <maya/MPxData.h>
 #include <maya/MPxNode.h>
-#include <maya/MString.h>
-#include <maya/MTypeId.h>
 #include <maya/MApiVersion.h>
 
 OPENMAYA_NAMESPACE_OPEN

@@ -1,6 +1,5 @@
 #pragma once
 #include <maya/MFnData.h>
-#include <maya/MString.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <maya/MFnAttribute.h>
 #include <maya/MFnData.h>
-#include <maya/MTypeId.h>
+#include <maya/MObject.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

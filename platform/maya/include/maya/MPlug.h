@@ -1,8 +1,6 @@
 #pragma once
 #include <maya/MObject.h>
 #include <maya/MStatus.h>
-#include <maya/MString.h>
-#include <maya/MTime.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

@@ -1,5 +1,5 @@
 #pragma once
-#include <maya/MPlug.h>
+#include <maya/MStatus.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

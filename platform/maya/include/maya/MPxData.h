@@ -1,6 +1,5 @@
 #pragma once
-#include <maya/MString.h>
-#include <maya/MTypeId.h>
+#include <maya/MStatus.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

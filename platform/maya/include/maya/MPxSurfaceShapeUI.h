@@ -1,7 +1,4 @@
 #pragma once
-#include <maya/MDagPath.h>
-#include <maya/MDrawData.h>
-#include <maya/MMaterial.h>
 #include <maya/MTypes.h>
 
 OPENMAYA_NAMESPACE_OPEN

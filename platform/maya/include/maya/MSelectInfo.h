@@ -1,8 +1,5 @@
 #pragma once
 #include <maya/MDrawInfo.h>
-#include <maya/MPointArray.h>
-#include <maya/MSelectionList.h>
-#include <maya/MSelectionMask.h>
 
 OPENMAYA_NAMESPACE_OPEN
 

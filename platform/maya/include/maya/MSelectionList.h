@@ -1,5 +1,4 @@
 #pragma once
-#include <maya/MDagPath.h>
 #include <maya/MObject.h>
 #include <maya/MStatus.h>
 

@@ -1,4 +1,5 @@
 #include <maya/MBoundingBox.h>
+#include <maya/MMatrix.h>
 
 #include <algorithm>
 

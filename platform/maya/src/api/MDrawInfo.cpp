@@ -1,5 +1,7 @@
 #include <maya/MDrawInfo.h>
+#include <maya/MPointArray.h>
 #include <maya/MSelectInfo.h>
+#include <maya/MSelectionList.h>
 
 #include "../Dag.h"
 #include "../HostState.h"
@@ -37,7 +39,7 @@ M3dView Access::view(unsigned int id) {
 
 void Access::setUp(MDrawInfo& info, const MDagPath& path, const M3dView& view, int style,
                    int status, unsigned int shownObjects) {
-    info.fPath = path;
+    info.fPathNode = handle(node(path));
     info.fView = view;
     info.fStyle = static_cast<M3dView::DisplayStyle>(style);
     info.fStatus = static_cast<M3dView::DisplayStatus>(status);
@@ -45,7 +47,7 @@ void Access::setUp(MDrawInfo& info, const MDagPath& path, const M3dView& view, i
 }
 
 void Access::setUp(MSelectInfo& info, const MDagPath& path, bool singleSelection) {
-    info.fPath = path;
+    info.fPathNode = handle(node(path));
     info.fSingleSelection = singleSelection;
 }
 
@@ -70,15 +72,15 @@ MDrawRequest MDrawInfo::getPrototype(const MPxSurfaceShapeUI&) const {
     MDrawRequest request;
     M3dView view = fView;
     request.setView(view);
-    request.setMultiPath(fPath);
+    request.setMultiPath(multiPath());
     request.setDisplayStyle(fStyle);
     request.setDisplayStatus(fStatus);
     return request;
 }
 
 M3dView MDrawInfo::view() const { return fView; }
-const MDagPath MDrawInfo::multiPath() const { return fPath; }
-const MMatrix MDrawInfo::inclusiveMatrix() const { return fPath.inclusiveMatrix(); }
+const MDagPath MDrawInfo::multiPath() const { return Access::dagPath(Access::object(fPathNode)); }
+const MMatrix MDrawInfo::inclusiveMatrix() const { return multiPath().inclusiveMatrix(); }
 M3dView::DisplayStyle MDrawInfo::displayStyle() const { return fStyle; }
 M3dView::DisplayStatus MDrawInfo::displayStatus() const { return fStatus; }
 

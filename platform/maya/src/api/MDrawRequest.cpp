@@ -39,68 +39,51 @@ void* MDrawData::geometry() {
     return const_cast<void*>(static_cast<DrawDataObj*>(fData)->geometry);
 }
 
-MDrawRequest::MDrawRequest()
-    : fStatus(M3dView::kNoStatus),
-      fStyle(M3dView::kBoundingBox),
-      fColorIndex(0),
-      fColorTable(-1),
-      fTransparent(false),
-      fToken(0) {}
-
-MDrawRequest::MDrawRequest(const MDrawRequest& in)
-    : fView(in.fView),
-      fPath(in.fPath),
-      fData(in.fData),
-      fMaterial(in.fMaterial),
-      fStatus(in.fStatus),
-      fStyle(in.fStyle),
-      fColorIndex(in.fColorIndex),
-      fColorTable(in.fColorTable),
-      fTransparent(in.fTransparent),
-      fToken(in.fToken) {}
-
-MDrawRequest::~MDrawRequest() = default;
+MDrawRequest::MDrawRequest() : fState(new DrawRequestState) {}
+MDrawRequest::MDrawRequest(const MDrawRequest& in) : fState(new DrawRequestState(*in.fState)) {}
+MDrawRequest::~MDrawRequest() { delete fState; }
 
 MDrawRequest& MDrawRequest::operator=(const MDrawRequest& other) {
-    fView = other.fView;
-    fPath = other.fPath;
-    Access::assign(fData, other.fData);
-    fMaterial = other.fMaterial;
-    fStatus = other.fStatus;
-    fStyle = other.fStyle;
-    fColorIndex = other.fColorIndex;
-    fColorTable = other.fColorTable;
-    fTransparent = other.fTransparent;
-    fToken = other.fToken;
+    const DrawRequestState& from = *other.fState;
+    fState->view = from.view;
+    fState->path = from.path;
+    Access::assign(fState->data, from.data);
+    fState->material = from.material;
+    fState->status = from.status;
+    fState->style = from.style;
+    fState->colorIndex = from.colorIndex;
+    fState->colorTable = from.colorTable;
+    fState->transparent = from.transparent;
+    fState->token = from.token;
     return *this;
 }
 
-M3dView MDrawRequest::view() const { return fView; }
-void MDrawRequest::setView(M3dView& view) { fView = view; }
-const MDagPath MDrawRequest::multiPath() const { return fPath; }
-void MDrawRequest::setMultiPath(const MDagPath& path) { fPath = path; }
-MDrawData MDrawRequest::drawData() const { return fData; }
-void MDrawRequest::setDrawData(MDrawData& data) { Access::assign(fData, data); }
-M3dView::DisplayStatus MDrawRequest::displayStatus() const { return fStatus; }
-void MDrawRequest::setDisplayStatus(M3dView::DisplayStatus status) { fStatus = status; }
-M3dView::DisplayStyle MDrawRequest::displayStyle() const { return fStyle; }
-void MDrawRequest::setDisplayStyle(M3dView::DisplayStyle style) { fStyle = style; }
+M3dView MDrawRequest::view() const { return fState->view; }
+void MDrawRequest::setView(M3dView& view) { fState->view = view; }
+const MDagPath MDrawRequest::multiPath() const { return fState->path; }
+void MDrawRequest::setMultiPath(const MDagPath& path) { fState->path = path; }
+MDrawData MDrawRequest::drawData() const { return fState->data; }
+void MDrawRequest::setDrawData(MDrawData& data) { Access::assign(fState->data, data); }
+M3dView::DisplayStatus MDrawRequest::displayStatus() const { return fState->status; }
+void MDrawRequest::setDisplayStatus(M3dView::DisplayStatus status) { fState->status = status; }
+M3dView::DisplayStyle MDrawRequest::displayStyle() const { return fState->style; }
+void MDrawRequest::setDisplayStyle(M3dView::DisplayStyle style) { fState->style = style; }
 
 int MDrawRequest::color(M3dView::ColorTable table) const {
-    return fColorTable == table ? fColorIndex : -1;
+    return fState->colorTable == table ? fState->colorIndex : -1;
 }
 
 void MDrawRequest::setColor(int colorIndex, M3dView::ColorTable table) {
-    fColorIndex = colorIndex;
-    fColorTable = table;
+    fState->colorIndex = colorIndex;
+    fState->colorTable = table;
 }
 
-MMaterial MDrawRequest::material() const { return fMaterial; }
-void MDrawRequest::setMaterial(MMaterial& material) { fMaterial = material; }
-bool MDrawRequest::isTransparent() const { return fTransparent; }
-void MDrawRequest::setIsTransparent(bool transparent) { fTransparent = transparent; }
-int MDrawRequest::token() const { return fToken; }
-void MDrawRequest::setToken(int token) { fToken = token; }
+MMaterial MDrawRequest::material() const { return fState->material; }
+void MDrawRequest::setMaterial(MMaterial& material) { fState->material = material; }
+bool MDrawRequest::isTransparent() const { return fState->transparent; }
+void MDrawRequest::setIsTransparent(bool transparent) { fState->transparent = transparent; }
+int MDrawRequest::token() const { return fState->token; }
+void MDrawRequest::setToken(int token) { fState->token = token; }
 
 MDrawRequestQueue::MDrawRequestQueue() : fQueue(new DrawQueue) {}
 MDrawRequestQueue::MDrawRequestQueue(const MDrawRequestQueue& in)

@@ -47,55 +47,57 @@ OPENMAYA_NAMESPACE_OPEN
 
 MFnAttribute::MFnAttribute() = default;
 MFnAttribute::MFnAttribute(MObject& object, MStatus* ReturnStatus) {
-    fObject = object;
+    *fObject = object;
     set(ReturnStatus, attributeOf(object) ? MStatus::kSuccess : MStatus::kInvalidParameter);
 }
 MFnAttribute::~MFnAttribute() = default;
 
 bool MFnAttribute::isReadable(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return a.readable; });
+    return read(*fObject, s, [](AttributeObj& a) { return a.readable; });
 }
 bool MFnAttribute::isWritable(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return a.writable; });
+    return read(*fObject, s, [](AttributeObj& a) { return a.writable; });
 }
 bool MFnAttribute::isStorable(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return a.storable; });
+    return read(*fObject, s, [](AttributeObj& a) { return a.storable; });
 }
 bool MFnAttribute::isKeyable(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return a.keyable; });
+    return read(*fObject, s, [](AttributeObj& a) { return a.keyable; });
 }
 bool MFnAttribute::isHidden(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return a.hidden; });
+    return read(*fObject, s, [](AttributeObj& a) { return a.hidden; });
 }
 bool MFnAttribute::isArray(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return a.array; });
+    return read(*fObject, s, [](AttributeObj& a) { return a.array; });
 }
 bool MFnAttribute::affectsWorldSpace(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return a.affectsWorldSpace; });
+    return read(*fObject, s, [](AttributeObj& a) { return a.affectsWorldSpace; });
 }
 MString MFnAttribute::name() const {
-    return read(fObject, nullptr, [](AttributeObj& a) { return MString(a.longName.c_str()); });
+    return read(*fObject, nullptr, [](AttributeObj& a) { return MString(a.longName.c_str()); });
 }
 MString MFnAttribute::shortName(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return MString(a.shortName.c_str()); });
+    return read(*fObject, s, [](AttributeObj& a) { return MString(a.shortName.c_str()); });
 }
 
 MStatus MFnAttribute::setReadable(bool state) {
-    return write(fObject, &AttributeObj::readable, state);
+    return write(*fObject, &AttributeObj::readable, state);
 }
 MStatus MFnAttribute::setWritable(bool state) {
-    return write(fObject, &AttributeObj::writable, state);
+    return write(*fObject, &AttributeObj::writable, state);
 }
 MStatus MFnAttribute::setStorable(bool state) {
-    return write(fObject, &AttributeObj::storable, state);
+    return write(*fObject, &AttributeObj::storable, state);
 }
 MStatus MFnAttribute::setKeyable(bool state) {
-    return write(fObject, &AttributeObj::keyable, state);
+    return write(*fObject, &AttributeObj::keyable, state);
 }
-MStatus MFnAttribute::setHidden(bool state) { return write(fObject, &AttributeObj::hidden, state); }
-MStatus MFnAttribute::setArray(bool state) { return write(fObject, &AttributeObj::array, state); }
+MStatus MFnAttribute::setHidden(bool state) {
+    return write(*fObject, &AttributeObj::hidden, state);
+}
+MStatus MFnAttribute::setArray(bool state) { return write(*fObject, &AttributeObj::array, state); }
 MStatus MFnAttribute::setAffectsWorldSpace(bool state) {
-    return write(fObject, &AttributeObj::affectsWorldSpace, state);
+    return write(*fObject, &AttributeObj::affectsWorldSpace, state);
 }
 
 MFnNumericAttribute::MFnNumericAttribute() = default;
@@ -107,7 +109,8 @@ MObject MFnNumericAttribute::create(const MString& fullName, const MString& brie
                                     MFnNumericData::Type unitType, double defaultValue,
                                     MStatus* ReturnStatus) {
     AttributeObj* attribute = nullptr;
-    MObject result = newAttribute(fObject, fullName, briefName, AttributeKind::Numeric, &attribute);
+    MObject result =
+        newAttribute(*fObject, fullName, briefName, AttributeKind::Numeric, &attribute);
     attribute->numericType = unitType;
     attribute->defaultValue.setNumber(defaultValue);
     set(ReturnStatus, MStatus::kSuccess);
@@ -117,7 +120,8 @@ MObject MFnNumericAttribute::create(const MString& fullName, const MString& brie
 MObject MFnNumericAttribute::createAddr(const MString& fullName, const MString& briefName,
                                         void* defaultValue, MStatus* ReturnStatus) {
     AttributeObj* attribute = nullptr;
-    MObject result = newAttribute(fObject, fullName, briefName, AttributeKind::Numeric, &attribute);
+    MObject result =
+        newAttribute(*fObject, fullName, briefName, AttributeKind::Numeric, &attribute);
     attribute->numericType = MFnNumericData::kAddr;
     attribute->defaultValue.setAddr(defaultValue);
     set(ReturnStatus, MStatus::kSuccess);
@@ -125,7 +129,7 @@ MObject MFnNumericAttribute::createAddr(const MString& fullName, const MString& 
 }
 
 MFnNumericData::Type MFnNumericAttribute::unitType(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return MFnNumericData::Type(a.numericType); });
+    return read(*fObject, s, [](AttributeObj& a) { return MFnNumericData::Type(a.numericType); });
 }
 
 MFnTypedAttribute::MFnTypedAttribute() = default;
@@ -136,7 +140,7 @@ MFnTypedAttribute::~MFnTypedAttribute() = default;
 MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefName,
                                   MFnData::Type type, MObject defaultData, MStatus* ReturnStatus) {
     AttributeObj* attribute = nullptr;
-    MObject result = newAttribute(fObject, fullName, briefName, AttributeKind::Typed, &attribute);
+    MObject result = newAttribute(*fObject, fullName, briefName, AttributeKind::Typed, &attribute);
     attribute->dataType = type;
     attribute->defaultValue.setData(defaultData);
     if (auto* text = Access::as<StringDataObj>(defaultData))
@@ -148,7 +152,7 @@ MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefN
 MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefName,
                                   const MTypeId& id, MObject defaultData, MStatus* ReturnStatus) {
     AttributeObj* attribute = nullptr;
-    MObject result = newAttribute(fObject, fullName, briefName, AttributeKind::Typed, &attribute);
+    MObject result = newAttribute(*fObject, fullName, briefName, AttributeKind::Typed, &attribute);
     attribute->dataType = MFnData::kPlugin;
     attribute->typeId = id.id();
     attribute->defaultValue.setData(defaultData);
@@ -157,7 +161,7 @@ MObject MFnTypedAttribute::create(const MString& fullName, const MString& briefN
 }
 
 MFnData::Type MFnTypedAttribute::attrType(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return MFnData::Type(a.dataType); });
+    return read(*fObject, s, [](AttributeObj& a) { return MFnData::Type(a.dataType); });
 }
 
 MFnUnitAttribute::MFnUnitAttribute() = default;
@@ -168,7 +172,7 @@ MFnUnitAttribute::~MFnUnitAttribute() = default;
 MObject MFnUnitAttribute::create(const MString& fullName, const MString& briefName, Type unitType,
                                  double defaultValue, MStatus* ReturnStatus) {
     AttributeObj* attribute = nullptr;
-    MObject result = newAttribute(fObject, fullName, briefName, AttributeKind::Unit, &attribute);
+    MObject result = newAttribute(*fObject, fullName, briefName, AttributeKind::Unit, &attribute);
     attribute->unitType = unitType;
     if (unitType == kTime)
         attribute->defaultValue.setTime(MTime(defaultValue, MTime::uiUnit()));
@@ -179,7 +183,7 @@ MObject MFnUnitAttribute::create(const MString& fullName, const MString& briefNa
 }
 
 MFnUnitAttribute::Type MFnUnitAttribute::unitType(MStatus* s) const {
-    return read(fObject, s, [](AttributeObj& a) { return MFnUnitAttribute::Type(a.unitType); });
+    return read(*fObject, s, [](AttributeObj& a) { return MFnUnitAttribute::Type(a.unitType); });
 }
 
 OPENMAYA_NAMESPACE_CLOSE

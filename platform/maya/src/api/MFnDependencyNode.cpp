@@ -1,5 +1,7 @@
+#include <maya/MDagPath.h>
 #include <maya/MFnDagNode.h>
 #include <maya/MFnDependencyNode.h>
+#include <maya/MPlug.h>
 
 #include "../Dag.h"
 #include "../HostState.h"
@@ -37,49 +39,49 @@ OPENMAYA_NAMESPACE_OPEN
 MFnDependencyNode::MFnDependencyNode() = default;
 
 MFnDependencyNode::MFnDependencyNode(MObject& object, MStatus* ReturnStatus) {
-    fObject = bindable(object, false);
-    set(ReturnStatus, fObject.isNull() ? MStatus::kInvalidParameter : MStatus::kSuccess);
+    *fObject = bindable(object, false);
+    set(ReturnStatus, fObject->isNull() ? MStatus::kInvalidParameter : MStatus::kSuccess);
 }
 
 MFnDependencyNode::~MFnDependencyNode() = default;
 
 MTypeId MFnDependencyNode::typeId(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     return node ? MTypeId(node->type->id) : MTypeId();
 }
 
 MString MFnDependencyNode::typeName(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     return node ? MString(node->type->name.c_str()) : MString();
 }
 
 MString MFnDependencyNode::name(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     return node ? MString(node->name.c_str()) : MString();
 }
 
 MPxNode* MFnDependencyNode::userNode(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     if (node && !node->user) set(ReturnStatus, MStatus::kInvalidParameter);
     return node ? node->user : nullptr;
 }
 
 MPlug MFnDependencyNode::findPlug(const MObject& attr, bool, MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     AttributeObj* attribute = attributeOf(attr);
     if (!node || !attribute || !node->has(*attribute))
-        return plugOf(fObject, nullptr, ReturnStatus);
-    return plugOf(fObject, attribute, ReturnStatus);
+        return plugOf(*fObject, nullptr, ReturnStatus);
+    return plugOf(*fObject, attribute, ReturnStatus);
 }
 
 MPlug MFnDependencyNode::findPlug(const MString& attrName, bool, MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     if (!node) return MPlug();
-    return plugOf(fObject, node->findAttribute(attrName.asChar()), ReturnStatus);
+    return plugOf(*fObject, node->findAttribute(attrName.asChar()), ReturnStatus);
 }
 
 MStatus MFnDependencyNode::addAttribute(const MObject& attr) {
-    NodeObj* node = nodeOf(fObject);
+    NodeObj* node = nodeOf(*fObject);
     AttributeObj* attribute = attributeOf(attr);
     if (!node || !attribute) return MStatus::kInvalidParameter;
     if (attribute->owner || attribute->dynamicOwner) {
@@ -100,24 +102,24 @@ MStatus MFnDependencyNode::addAttribute(const MObject& attr) {
 MFnDagNode::MFnDagNode() = default;
 
 MFnDagNode::MFnDagNode(MObject& object, MStatus* ReturnStatus) {
-    fObject = bindable(object, true);
-    set(ReturnStatus, fObject.isNull() ? MStatus::kInvalidParameter : MStatus::kSuccess);
+    *fObject = bindable(object, true);
+    set(ReturnStatus, fObject->isNull() ? MStatus::kInvalidParameter : MStatus::kSuccess);
 }
 
 MFnDagNode::MFnDagNode(const MDagPath& object, MStatus* ReturnStatus) {
-    fObject = bindable(object.node(), true);
-    set(ReturnStatus, fObject.isNull() ? MStatus::kInvalidParameter : MStatus::kSuccess);
+    *fObject = bindable(object.node(), true);
+    set(ReturnStatus, fObject->isNull() ? MStatus::kInvalidParameter : MStatus::kSuccess);
 }
 
 MFnDagNode::~MFnDagNode() = default;
 
 unsigned int MFnDagNode::parentCount(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     return node && node->parent ? 1 : 0;
 }
 
 MObject MFnDagNode::parent(unsigned int i, MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     if (!node || !node->parent || i != 0) {
         set(ReturnStatus, MStatus::kInvalidParameter);
         return MObject();
@@ -126,12 +128,12 @@ MObject MFnDagNode::parent(unsigned int i, MStatus* ReturnStatus) const {
 }
 
 unsigned int MFnDagNode::childCount(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     return node ? static_cast<unsigned int>(node->children.size()) : 0;
 }
 
 MObject MFnDagNode::child(unsigned int i, MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     if (!node || i >= node->children.size()) {
         set(ReturnStatus, MStatus::kInvalidParameter);
         return MObject();
@@ -140,12 +142,12 @@ MObject MFnDagNode::child(unsigned int i, MStatus* ReturnStatus) const {
 }
 
 MDagPath MFnDagNode::dagPath(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     return node ? Access::dagPath(node) : MDagPath();
 }
 
 MBoundingBox MFnDagNode::boundingBox(MStatus* ReturnStatus) const {
-    NodeObj* node = bound(fObject, ReturnStatus);
+    NodeObj* node = bound(*fObject, ReturnStatus);
     return node ? objectBox(*node) : MBoundingBox();
 }
 

@@ -55,7 +55,7 @@ MFnPlugin::MFnPlugin() = default;
 
 MFnPlugin::MFnPlugin(MObject& object, const char* vendor, const char* version,
                      const char* requiredApiVersion, MStatus* ReturnStatus) {
-    fObject = object;
+    *fObject = object;
     PluginObj* plugin = Access::as<PluginObj>(object);
     if (!plugin) {
         set(ReturnStatus, MStatus::kInvalidParameter);
@@ -73,25 +73,25 @@ MFnPlugin::MFnPlugin(MObject& object, const char* vendor, const char* version,
 MFnPlugin::~MFnPlugin() = default;
 
 MString MFnPlugin::vendor(MStatus* ReturnStatus) const {
-    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    PluginObj* plugin = Access::as<PluginObj>(*fObject);
     set(ReturnStatus, plugin ? MStatus::kSuccess : MStatus::kInvalidParameter);
     return plugin ? MString(plugin->vendor.c_str()) : MString();
 }
 
 MString MFnPlugin::version(MStatus* ReturnStatus) const {
-    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    PluginObj* plugin = Access::as<PluginObj>(*fObject);
     set(ReturnStatus, plugin ? MStatus::kSuccess : MStatus::kInvalidParameter);
     return plugin ? MString(plugin->version.c_str()) : MString();
 }
 
 MString MFnPlugin::apiVersion(MStatus* ReturnStatus) const {
-    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    PluginObj* plugin = Access::as<PluginObj>(*fObject);
     set(ReturnStatus, plugin ? MStatus::kSuccess : MStatus::kInvalidParameter);
     return plugin ? MString(plugin->requiredApiVersion.c_str()) : MString();
 }
 
 MString MFnPlugin::loadPath(MStatus* ReturnStatus) const {
-    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    PluginObj* plugin = Access::as<PluginObj>(*fObject);
     set(ReturnStatus, plugin ? MStatus::kSuccess : MStatus::kInvalidParameter);
     return plugin ? MString(plugin->path.c_str()) : MString();
 }
@@ -100,7 +100,7 @@ MStatus MFnPlugin::registerShape(const MString& typeName, const MTypeId& typeId,
                                  MCreatorFunction creatorFunction, MInitializeFunction initFunction,
                                  MCreatorFunction uiCreatorFunction,
                                  const MString* classification) {
-    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    PluginObj* plugin = Access::as<PluginObj>(*fObject);
     if (!plugin || !creatorFunction) return MStatus::kInvalidParameter;
     auto type = std::make_unique<NodeType>();
     type->name = typeName.asChar();
@@ -118,7 +118,7 @@ MStatus MFnPlugin::registerShape(const MString& typeName, const MTypeId& typeId,
 MStatus MFnPlugin::registerNode(const MString& typeName, const MTypeId& typeId,
                                 MCreatorFunction creatorFunction, MInitializeFunction initFunction,
                                 MPxNode::Type type, const MString* classification) {
-    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    PluginObj* plugin = Access::as<PluginObj>(*fObject);
     if (!plugin || !creatorFunction) return MStatus::kInvalidParameter;
     if (type != MPxNode::kDependNode && type != MPxNode::kLocatorNode &&
         type != MPxNode::kSurfaceShape) {
@@ -139,7 +139,7 @@ MStatus MFnPlugin::registerNode(const MString& typeName, const MTypeId& typeId,
 
 MStatus MFnPlugin::registerData(const MString& typeName, const MTypeId& typeId,
                                 MCreatorFunction creatorFunction, MPxData::Type type) {
-    PluginObj* plugin = Access::as<PluginObj>(fObject);
+    PluginObj* plugin = Access::as<PluginObj>(*fObject);
     if (!plugin || !creatorFunction) return MStatus::kInvalidParameter;
     if (idTaken(typeId.id())) {
         diagnose("data type id " + hex(typeId.id()) + " (\"" + typeName.asChar() +

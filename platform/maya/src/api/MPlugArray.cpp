@@ -1,3 +1,4 @@
+#include <maya/MPlug.h>
 #include <maya/MPlugArray.h>
 
 #include <utility>

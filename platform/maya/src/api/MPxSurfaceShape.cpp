@@ -1,3 +1,5 @@
+#include <maya/MDagPath.h>
+#include <maya/MMaterial.h>
 #include <maya/MPxSurfaceShape.h>
 #include <maya/MPxSurfaceShapeUI.h>
 
