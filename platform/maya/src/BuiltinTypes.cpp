@@ -17,15 +17,6 @@ const unsigned int kTransformId = 0x5846524d;  // 'XFRM'
 const unsigned int kTimeId = 0x54494d45;       // 'TIME'
 const unsigned int kMeshId = 0x444d5348;       // 'DMSH'
 
-NodeType& addType(const char* name, unsigned int id) {
-    auto type = std::make_unique<NodeType>();
-    type->name = name;
-    type->id = id;
-    NodeType& added = *type;
-    state().nodeTypes.push_back(std::move(type));
-    return added;
-}
-
 AttributeObj& addAttribute(NodeType& type, const char* longName, const char* shortName,
                            AttributeKind kind) {
     auto* attribute = new AttributeObj;
@@ -83,6 +74,15 @@ void addMeshType() {
 }
 
 }  // namespace
+
+NodeType& addType(const char* name, unsigned int id) {
+    auto type = std::make_unique<NodeType>();
+    type->name = name;
+    type->id = id;
+    NodeType& added = *type;
+    state().nodeTypes.push_back(std::move(type));
+    return added;
+}
 
 void startHost() {
     addTransformType();

@@ -4,7 +4,13 @@
 namespace mayahost {
 namespace detail {
 
-// Registers "transform", "time", "mesh" and the unknown node types, and creates "time1" at the current time.
+struct NodeType;
+
+// Registers one of Maya's own node types, without attributes.
+NodeType& addType(const char* name, unsigned int id);
+
+// Registers "transform", "time", "mesh" and the unknown node types, and creates "time1" at the
+// current time.
 void startHost();
 
 }  // namespace detail

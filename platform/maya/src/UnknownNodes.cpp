@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "BuiltinTypes.h"
 #include "Dag.h"
 #include "HostState.h"
 #include "Names.h"
@@ -18,14 +19,11 @@ const unsigned int kUnknownId = 0x554e4b4e;           // 'UNKN'
 const unsigned int kUnknownDagId = 0x554e4b44;        // 'UNKD'
 const unsigned int kUnknownTransformId = 0x554e4b54;  // 'UNKT'
 
-void addType(const char* name, unsigned int id, bool dag, bool transform) {
-    auto type = std::make_unique<NodeType>();
-    type->name = name;
-    type->id = id;
-    type->isDag = dag;
-    type->isTransform = transform;
-    type->isUnknown = true;
-    state().nodeTypes.push_back(std::move(type));
+void addUnknownType(const char* name, unsigned int id, bool dag, bool transform) {
+    NodeType& type = addType(name, id);
+    type.isDag = dag;
+    type.isTransform = transform;
+    type.isUnknown = true;
 }
 
 // The attributes Maya's abstract node types give every node, DAG node or shape, which scene
@@ -138,9 +136,9 @@ bool isAbove(const NodeObj& node, const NodeObj* below) {
 }  // namespace
 
 void addUnknownTypes() {
-    addType("unknown", kUnknownId, false, false);
-    addType("unknownDag", kUnknownDagId, true, false);
-    addType("unknownTransform", kUnknownTransformId, true, true);
+    addUnknownType("unknown", kUnknownId, false, false);
+    addUnknownType("unknownDag", kUnknownDagId, true, false);
+    addUnknownType("unknownTransform", kUnknownTransformId, true, true);
 }
 
 void becomeTransformIfUnknown(NodeObj& node) {
