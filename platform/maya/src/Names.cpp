@@ -1,6 +1,5 @@
 #include "Names.h"
 
-#include <algorithm>
 #include <cctype>
 
 #include "HostState.h"
@@ -82,14 +81,6 @@ std::vector<NodeObj*> nodesNamed(const std::string& name) {
     const auto range = state().nodesByName.equal_range(parts.back());
     for (auto it = range.first; it != range.second; ++it)
         if (endsWithPath(*it->second, parts, fromWorld)) found.push_back(it->second);
-    if (found.size() > 1) {
-        // The map keeps no order of its own; the scene's order is the order the nodes were made.
-        const auto& nodes = state().nodes;
-        std::sort(found.begin(), found.end(), [&nodes](NodeObj* a, NodeObj* b) {
-            return std::find(nodes.begin(), nodes.end(), a) <
-                   std::find(nodes.begin(), nodes.end(), b);
-        });
-    }
     return found;
 }
 

@@ -18,7 +18,7 @@ std::string freeName(const std::string& requested, const std::string& typeName,
                      const NodeObj* parent);
 void addName(NodeObj& node);
 void removeName(NodeObj& node);
-// Every node a name or DAG path names, in the order they were made.
+// Every node a name or DAG path names.
 std::vector<NodeObj*> nodesNamed(const std::string& name);
 // The shortest path that names the node alone: its name, or as many parents as that needs.
 std::string partialPathName(const NodeObj& node);
