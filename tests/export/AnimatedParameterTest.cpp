@@ -80,7 +80,10 @@ TEST_F(AnimatedParameter, AKeyframeOfAnotherIndexChangesNothingAndReachesNoFurNo
 // The time is the scene's, in the scene's unit, narrowed to float on its way.
 TEST_F(AnimatedParameter, TheFurNodeGetsTheSceneTimeNotTheKeyframeTime) {
     const std::pair<MTime::Unit, double> sceneTimes[] = {
-        {MTime::kFilm, 1.0 / 3.0}, {MTime::kNTSCFrame, 1001.3}, {MTime::kPALFrame, -2.7e-3}};
+        {MTime::kFilm, 1.0 / 3.0},
+        {MTime::kNTSCFrame, 1001.3},
+        {MTime::kPALFrame, -2.7e-3},
+        {MTime::k23_976FPS, 1001.0}};
     for (const auto& scene : sceneTimes) {
         MTime::setUIUnit(scene.first);
         mayahost::setCurrentTime(MTime(scene.second, scene.first));
@@ -91,7 +94,7 @@ TEST_F(AnimatedParameter, TheFurNodeGetsTheSceneTimeNotTheKeyframeTime) {
         EXPECT_EQ(updated[0].time, static_cast<double>(static_cast<float>(scene.second)))
             << scene.second;
     }
-    EXPECT_EQ(samples(*request), std::vector<float>(3, 0.1f));
+    EXPECT_EQ(samples(*request), std::vector<float>(std::size(sceneTimes), 0.1f));
 }
 
 // A sample is compared with the clearing time as a double: the float nearest 1001.3 lies below
