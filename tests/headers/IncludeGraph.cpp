@@ -1,7 +1,27 @@
 #include "IncludeGraph.h"
 
-#include <regex>
+#include <algorithm>
+#include <cctype>
 #include <sstream>
+
+namespace {
+
+// The NAME of "#include <maya/NAME>" or "#include "maya/NAME"" (with or without spaces around
+// its parts); empty for any other line. Quoted includes reach the same header.
+std::string mayaInclude(std::string line) {
+    line.erase(
+        std::remove_if(line.begin(), line.end(), [](unsigned char c) { return std::isspace(c); }),
+        line.end());
+    const std::string directive = "#include";
+    if (line.compare(0, directive.size(), directive) != 0) return "";
+    const std::string target = line.substr(directive.size());
+    const char close = target.empty() ? 0 : target[0] == '<' ? '>' : target[0] == '"' ? '"' : 0;
+    if (!close || target.compare(1, 5, "maya/") != 0) return "";
+    const std::size_t end = target.find(close, 6);
+    return end == std::string::npos ? "" : target.substr(6, end - 6);
+}
+
+}  // namespace
 
 IncludeGraph::IncludeGraph(const std::string& text) {
     std::istringstream lines(text);
@@ -18,15 +38,13 @@ std::vector<std::string> IncludeGraph::excessIncludes(const std::string& header,
                                                       const std::string& text) const {
     const auto real = fIncludes.find(header);
     if (real == fIncludes.end()) return {header + ": Maya 2022 has no header of this name"};
-    // Quoted includes count too: they reach the same header.
-    static const std::regex include(R"(^\s*#\s*include\s*[<"]maya/([^>"]+)[>"])");
     std::vector<std::string> excess;
     std::istringstream lines(text);
     int number = 0;
     for (std::string line; std::getline(lines, line);) {
         ++number;
-        std::smatch match;
-        if (!std::regex_search(line, match, include) || real->second.count(match[1])) continue;
+        const std::string included = mayaInclude(line);
+        if (included.empty() || real->second.count(included)) continue;
         excess.push_back(header + ":" + std::to_string(number) + ": " + line + ": Maya 2022's " +
                          header + " does not include it");
     }
