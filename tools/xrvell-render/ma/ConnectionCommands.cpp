@@ -9,10 +9,6 @@
 namespace xrvell {
 namespace {
 
-std::string withoutPrefix(const std::string& text, const std::string& prefix) {
-    return text.compare(0, prefix.size(), prefix) == 0 ? text.substr(prefix.size()) : text;
-}
-
 bool fromPlugIn(const MObject& node) {
     mayahost::NodeTypeInfo info;
     MObject handle = node;

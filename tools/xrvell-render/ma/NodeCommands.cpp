@@ -77,14 +77,8 @@ bool NodeCommands::createNode(const MaStatement& statement) {
     std::string error;
     const MObject node = parentName ? mayahost::createNode(type, name, parent, &error)
                                     : mayahost::createNode(type, name, &error);
-    if (node.isNull()) {
-        const std::string prefix = "createNode: ";
-        if (error.compare(0, prefix.size(), prefix) == 0) error.erase(0, prefix.size());
-        return context.fail(prefix + error);
-    }
-    context.created(node);
-    context.select(node, name.empty() ? mayahost::nodeName(node) : name);
-    return true;
+    if (node.isNull()) return context.fail("createNode: " + withoutPrefix(error, "createNode: "));
+    return adopt(node, name);
 }
 
 bool NodeCommands::createUnknown(const std::string& type, const std::string& name,
@@ -97,6 +91,11 @@ bool NodeCommands::createUnknown(const std::string& type, const std::string& nam
     std::string error;
     const MObject node = mayahost::createUnknownNode(type, name, parent, &error);
     if (node.isNull()) return context.fail("createNode: " + error);
+    return adopt(node, name);
+}
+
+// A new node is the scene's, and the settings that follow it are for it.
+bool NodeCommands::adopt(const MObject& node, const std::string& name) {
     context.created(node);
     context.select(node, name.empty() ? mayahost::nodeName(node) : name);
     return true;

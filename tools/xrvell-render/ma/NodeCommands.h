@@ -24,6 +24,7 @@ public:
 
 private:
     bool createUnknown(const std::string& type, const std::string& name, const MObject& parent);
+    bool adopt(const MObject& node, const std::string& name);
 
     ReadContext& context;
     std::map<std::string, std::string> refusedTypes;

@@ -6,6 +6,10 @@ namespace xrvell {
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
+std::string withoutPrefix(const std::string& text, const std::string& prefix) {
+    return text.compare(0, prefix.size(), prefix) == 0 ? text.substr(prefix.size()) : text;
+}
+
 ReadContext::ReadContext(Diagnostics& report) : diagnostics(report) {}
 
 bool ReadContext::fail(const std::string& text) {
@@ -23,16 +27,17 @@ bool ReadContext::findNode(const std::string& name, const std::string& missing, 
     std::string error;
     *node = mayahost::findNode(name, &error);
     if (!node->isNull()) return true;
+    const bool ambiguous = error.compare(0, 4, "More") == 0;
+    if (ambiguous) return fail(error);
     const bool defaultNode =
         name.size() > 1 && name[0] == ':' && name.find_first_of("|:", 1) == std::string::npos;
-    if (defaultNode && error.compare(0, 3, "No ") == 0) {
+    if (defaultNode) {
         *node = mayahost::createUnknownNode("", name.substr(1));
         note("Maya's default node " + quoted(name.substr(1)) +
              " is not modelled by the host; it is kept as an unknown node");
         return true;
     }
-    if (error.compare(0, 3, "No ") == 0) return fail(missing + quoted(name));
-    return fail(error);
+    return fail(missing + quoted(name));
 }
 
 bool ReadContext::splitPlug(const std::string& text, PlugText* plug) {

@@ -52,5 +52,7 @@ private:
 
 // `text` in double quotes, as messages quote what a scene wrote.
 std::string quoted(const std::string& text);
+// The host's messages name the call they come from; the reader's name the command.
+std::string withoutPrefix(const std::string& text, const std::string& prefix);
 
 }  // namespace xrvell
