@@ -11,12 +11,12 @@ Diagnostics::Diagnostics(std::string fileName, std::FILE* output, int level)
 
 void Diagnostics::error(int line, const std::string& text) {
     ++errorCount;
-    report(line, "error", text, true);
+    report(file, line, "error", text, true);
 }
 
 void Diagnostics::warning(int line, const std::string& text, const std::string& kind) {
     ++warningCount;
-    if (verbosity >= 2) return report(line, "warning", text, true);
+    if (verbosity >= 2) return report(file, line, "warning", text, true);
     const std::string& key = kind.empty() ? text : kind;
     for (Held& same : held) {
         if (same.kind == key) {
@@ -24,11 +24,11 @@ void Diagnostics::warning(int line, const std::string& text, const std::string& 
             return;
         }
     }
-    held.push_back(Held{key, line, text, 0});
+    held.push_back(Held{key, file, line, text, 0});
 }
 
 void Diagnostics::note(int line, const std::string& text) {
-    if (verbosity >= 2) report(line, "note", text, true);
+    if (verbosity >= 2) report(file, line, "note", text, true);
 }
 
 void Diagnostics::flush() {
@@ -36,15 +36,16 @@ void Diagnostics::flush() {
         std::string text = warning.text;
         if (warning.more > 0)
             text += " (and " + std::to_string(warning.more) + " more like it; -v 2 lists each)";
-        report(warning.line, "warning", text, verbosity >= 1);
+        report(warning.file, warning.line, "warning", text, verbosity >= 1);
     }
     held.clear();
 }
 
 // Scene text quoted in a message may hold any byte: each message stays one visible line.
-void Diagnostics::report(int line, const char* kind, const std::string& text, bool show) {
+void Diagnostics::report(const std::string& fileName, int line, const char* kind,
+                         const std::string& text, bool show) {
     std::string formatted =
-        VisibleText::of(file + ":" + std::to_string(line) + ": " + kind + ": " + text);
+        VisibleText::of(fileName + ":" + std::to_string(line) + ": " + kind + ": " + text);
     if (stream && show) {
         formatted += '\n';
         std::fwrite(formatted.data(), 1, formatted.size(), stream);

@@ -1,6 +1,7 @@
 #pragma once
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace xrvell {
@@ -24,6 +25,11 @@ public:
     // Shows the warnings held back, in the order their kinds first came.
     void flush();
 
+    // The file the lines given from now on are in, as messages name it: a scene names the
+    // files it references.
+    const std::string& currentFile() const { return file; }
+    void setFile(std::string name) { file = std::move(name); }
+
     int errors() const { return errorCount; }
     int warnings() const { return warningCount; }
     // The lines shown so far (at verbosity 0, what verbosity 1 would show).
@@ -32,11 +38,13 @@ public:
 private:
     struct Held {
         std::string kind;
+        std::string file;
         int line;
         std::string text;
         int more;
     };
-    void report(int line, const char* kind, const std::string& text, bool show);
+    void report(const std::string& file, int line, const char* kind, const std::string& text,
+                bool show);
 
     std::string file;
     std::FILE* stream;

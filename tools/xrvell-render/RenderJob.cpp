@@ -3,11 +3,9 @@
 #include <maya/MTime.h>
 #include <mayahost/Host.h>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstring>
 #include <exception>
 #include <new>
@@ -18,6 +16,7 @@
 #include "PluginPath.h"
 #include "ProgressLine.h"
 #include "RenderDriver.h"
+#include "SceneFile.h"
 #include "SceneReader.h"
 #include "VisibleText.h"
 #include "VrsceneStream.h"
@@ -82,36 +81,14 @@ int RenderJob::runSteps() {
     return written && errors == 0 ? 0 : 1;
 }
 
-// Only a regular file can be read whole: a directory reads as nothing, a FIFO or device as
-// whatever happens to come.
 bool RenderJob::readScene(std::string* text) {
-    const std::string what = "cannot read \"" + options.scene + "\": ";
-    const int fd = ::open(options.scene.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (fd < 0) return fail(what + std::strerror(errno));
-    struct stat status;
-    int problem = fstat(fd, &status) != 0 ? errno : 0;
-    if (!problem && S_ISDIR(status.st_mode)) problem = EISDIR;
-    if (!problem && !S_ISREG(status.st_mode)) {
-        close(fd);
-        return fail(what + "not a regular file");
-    }
-    if (!problem) {
-        sceneDevice = status.st_dev;
-        sceneInode = status.st_ino;
-        text->reserve(static_cast<size_t>(status.st_size));
-        char buffer[1 << 16];
-        for (;;) {
-            const ssize_t got = ::read(fd, buffer, sizeof buffer);
-            if (got < 0 && errno == EINTR) continue;
-            if (got <= 0) {
-                problem = got < 0 ? errno : 0;
-                break;
-            }
-            text->append(buffer, static_cast<size_t>(got));
-        }
-    }
-    close(fd);
-    return !problem || fail(what + std::strerror(problem));
+    SceneFile file;
+    std::string problem;
+    if (!file.read(options.scene, &problem)) return fail(problem);
+    sceneDevice = file.device;
+    sceneInode = file.inode;
+    text->swap(file.text);
+    return true;
 }
 
 // Writing the output over the scene would lose the scene.
