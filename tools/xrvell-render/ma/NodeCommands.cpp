@@ -43,10 +43,11 @@ std::string invalidName(const std::string& name) {
 
 }  // namespace
 
-NodeCommands::NodeCommands(ReadContext& shared) : context(shared) {}
+NodeCommands::NodeCommands(ReadContext& shared, NodeTypeRules& typeRules)
+    : context(shared), rules(typeRules) {}
 
 void NodeCommands::refuseType(const std::string& type, const std::string& problem) {
-    refusedTypes[type] = problem;
+    rules.refused[type] = problem;
 }
 
 bool NodeCommands::createNode(const MaStatement& statement) {
@@ -58,18 +59,11 @@ bool NodeCommands::createNode(const MaStatement& statement) {
         return context.fail(args.error());
     if (args.plain().size() != 1) return context.fail("createNode: expects one node type");
     const std::string& type = args.plain()[0].text;
-    const std::string name = writtenName(args);
-    if (!name.empty() && !isNodeName(name)) return context.fail(invalidName(name));
+    const std::string written = writtenName(args);
+    if (!written.empty() && !isNodeName(written)) return context.fail(invalidName(written));
+    const std::string name = inNamespace(args);
     const std::string* parentName = args.value("p");
-    if (args.has("s") && !name.empty()) {
-        // A shared node the scene already has, such as Maya's default cameras, is only selected.
-        const std::string path = parentName ? *parentName + "|" + name : name;
-        const MObject existing = mayahost::findNode(path);
-        if (!existing.isNull()) {
-            context.select(existing, name);
-            return true;
-        }
-    }
+    if (args.has("s") && !name.empty() && selectShared(parentName, name, written)) return true;
     MObject parent;
     if (parentName && !context.findNode(*parentName, "createNode: no parent node ", &parent))
         return false;
@@ -81,11 +75,30 @@ bool NodeCommands::createNode(const MaStatement& statement) {
     return adopt(node, name);
 }
 
+// The name -n gives, in the file's namespace unless written from the root.
+std::string NodeCommands::inNamespace(const MaArguments& args) const {
+    const std::string* name = args.value("n");
+    if (!name || name->empty()) return "";
+    return (*name)[0] == ':' ? name->substr(1) : context.sceneName(*name);
+}
+
+// A shared node the scene already has, such as Maya's default cameras, is only selected; a
+// referenced file shares them with the scene.
+bool NodeCommands::selectShared(const std::string* parentName, const std::string& name,
+                                const std::string& written) {
+    const std::string path = parentName ? context.sceneName(*parentName) + "|" + name : name;
+    MObject existing = mayahost::findNode(path);
+    if (existing.isNull() && !parentName && name != written) existing = mayahost::findNode(written);
+    if (existing.isNull()) return false;
+    context.select(existing, name);
+    return true;
+}
+
 bool NodeCommands::createUnknown(const std::string& type, const std::string& name,
                                  const MObject& parent) {
-    const auto refused = refusedTypes.find(type);
-    if (refused != refusedTypes.end()) return context.fail(refused->second);
-    if (notedTypes.insert(type).second)
+    const auto refused = rules.refused.find(type);
+    if (refused != rules.refused.end()) return context.fail(refused->second);
+    if (rules.noted.insert(type).second)
         context.note("node type " + quoted(type) +
                      " is not modelled by the host; its nodes are kept as unknown nodes");
     std::string error;

@@ -10,20 +10,49 @@ std::string withoutPrefix(const std::string& text, const std::string& prefix) {
     return text.compare(0, prefix.size(), prefix) == 0 ? text.substr(prefix.size()) : text;
 }
 
-ReadContext::ReadContext(Diagnostics& report) : diagnostics(report) {}
+ReadContext::ReadContext(Diagnostics& report, std::vector<MObject>& created, std::string file,
+                         std::string nameSpace)
+    : diagnostics(report),
+      createdNodes(created),
+      fileName(file.empty() ? report.currentFile() : std::move(file)),
+      space(std::move(nameSpace)) {}
 
 bool ReadContext::fail(const std::string& text) {
+    if (!failureKind.empty()) {
+        warn(text, failureKind);
+        return false;
+    }
+    diagnostics.setFile(fileName);
     diagnostics.error(line, text);
     return false;
 }
 
 void ReadContext::warn(const std::string& text, const std::string& kind) {
+    diagnostics.setFile(fileName);
     diagnostics.warning(line, text, kind);
 }
 
-void ReadContext::note(const std::string& text) { diagnostics.note(line, text); }
+void ReadContext::note(const std::string& text) {
+    diagnostics.setFile(fileName);
+    diagnostics.note(line, text);
+}
 
-bool ReadContext::findNode(const std::string& name, const std::string& missing, MObject* node) {
+std::string ReadContext::sceneName(const std::string& written) const {
+    if (space.empty()) return written;
+    std::string name;
+    size_t start = 0;
+    for (;;) {
+        const size_t bar = written.find('|', start);
+        const std::string part = written.substr(start, bar - start);
+        if (!part.empty()) name += part[0] == ':' ? part : space + ":" + part;
+        if (bar == std::string::npos) return name;
+        name += '|';
+        start = bar + 1;
+    }
+}
+
+bool ReadContext::findNode(const std::string& written, const std::string& missing, MObject* node) {
+    const std::string name = sceneName(written);
     std::string error;
     *node = mayahost::findNode(name, &error);
     if (!node->isNull()) return true;
@@ -37,7 +66,7 @@ bool ReadContext::findNode(const std::string& name, const std::string& missing, 
              " is not modelled by the host; it is kept as an unknown node");
         return true;
     }
-    return fail(missing + quoted(name));
+    return fail(missing + quoted(written));
 }
 
 bool ReadContext::splitPlug(const std::string& text, PlugText* plug) {

@@ -18,9 +18,22 @@ struct PlugText {
 // report, which node is selected, and how the scene's names reach the host's nodes.
 class ReadContext {
 public:
-    explicit ReadContext(Diagnostics& diagnostics);
+    // `file` names the file in messages; the nodes of a referenced file are in `nameSpace`
+    // ("" for the scene itself, "char", "char:hair" below it).
+    ReadContext(Diagnostics& diagnostics, std::vector<MObject>& created, std::string file = "",
+                std::string nameSpace = "");
 
-    // Reports an error at the current line; false, so a command can return it.
+    const std::string& file() const { return fileName; }
+    const std::string& nameSpace() const { return space; }
+    // A node name or DAG path as the file wrote it, as the scene knows it: each name in the
+    // file's namespace, except those written from the root (":time1").
+    std::string sceneName(const std::string& written) const;
+
+    // While set, what would be an error is a warning of this kind: a reference edit that no
+    // longer applies is reported and skipped, as Maya does.
+    void failAsWarning(const std::string& kind) { failureKind = kind; }
+
+    // Reports an error at the current line of the file; false, so a command can return it.
     bool fail(const std::string& text);
     void warn(const std::string& text, const std::string& kind = "");
     void note(const std::string& text);
@@ -30,7 +43,7 @@ public:
     // every scene has and the host does not make: it is kept as an unknown node. Otherwise a
     // name that matches no node is an error that says `missing` and then the name; one that
     // matches several gives Maya's message.
-    bool findNode(const std::string& name, const std::string& missing, MObject* node);
+    bool findNode(const std::string& written, const std::string& missing, MObject* node);
     // Splits "node.attribute"; an error when there is no attribute.
     bool splitPlug(const std::string& text, PlugText* plug);
 
@@ -39,7 +52,6 @@ public:
     const std::string& selectedName() const { return selectedText; }
 
     void created(const MObject& node) { createdNodes.push_back(node); }
-    const std::vector<MObject>& createdList() const { return createdNodes; }
 
     int line = 0;
 
@@ -47,7 +59,10 @@ private:
     Diagnostics& diagnostics;
     MObject selectedNode;
     std::string selectedText;  // as the scene named it
-    std::vector<MObject> createdNodes;
+    std::vector<MObject>& createdNodes;
+    std::string fileName;
+    std::string space;
+    std::string failureKind;
 };
 
 // `text` in double quotes, as messages quote what a scene wrote.

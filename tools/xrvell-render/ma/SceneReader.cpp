@@ -1,176 +1,33 @@
 #include "SceneReader.h"
 
-#include <maya/MTime.h>
+#include <cstdlib>
 
-#include <cstring>
-
-#include "MaArguments.h"
+#include "FileReader.h"
+#include "ReferencePath.h"
 
 namespace xrvell {
-namespace {
-
-// The renderer's own Maya plug-in: this program stands in for it.
-const char* const kRendererPlugin = "vrayformaya";
-
-// The fur product's plug-in and the bridge, with their node types: without them a scene's fur
-// cannot be rendered, so their nodes are never kept as unknown nodes.
-const struct {
-    const char* plugin;
-    const char* nodeType;
-} kProductPlugins[] = {{"xrVellMaya", "xrVellMaya"}, {"xrVellVRayMaya", "xrVellMayaVRay"}};
-
-const char* productNodeType(std::string plugin) {
-    if (plugin.size() > 3 && plugin.compare(plugin.size() - 3, 3, ".so") == 0)
-        plugin.resize(plugin.size() - 3);
-    for (const auto& product : kProductPlugins)
-        if (plugin == product.plugin) return product.nodeType;
-    return nullptr;
-}
-
-// Commands every Maya file holds that change nothing the render sees.
-bool isBookkeeping(const std::string& command) {
-    static const char* const names[] = {"fileInfo",       "relationship",  "rename",
-                                        "lockNode",       "dataStructure", "workspace",
-                                        "setNodeTypeFlag"};
-    for (const char* name : names)
-        if (command == name) return true;
-    return false;
-}
-
-// currentUnit -t names of Maya 2022's time units.
-bool timeUnitNamed(const std::string& name, MTime::Unit* unit) {
-    static const struct {
-        const char* name;
-        MTime::Unit unit;
-    } units[] = {
-        {"hour", MTime::kHours},          {"min", MTime::kMinutes},
-        {"sec", MTime::kSeconds},         {"millisec", MTime::kMilliseconds},
-        {"game", MTime::kGames},          {"film", MTime::kFilm},
-        {"pal", MTime::kPALFrame},        {"ntsc", MTime::kNTSCFrame},
-        {"show", MTime::kShowScan},       {"palf", MTime::kPALField},
-        {"ntscf", MTime::kNTSCField},     {"15fps", MTime::k15FPS},
-        {"24fps", MTime::k24FPS},         {"25fps", MTime::k25FPS},
-        {"30fps", MTime::k30FPS},         {"48fps", MTime::k48FPS},
-        {"50fps", MTime::k50FPS},         {"60fps", MTime::k60FPS},
-        {"2fps", MTime::k2FPS},           {"3fps", MTime::k3FPS},
-        {"4fps", MTime::k4FPS},           {"5fps", MTime::k5FPS},
-        {"6fps", MTime::k6FPS},           {"8fps", MTime::k8FPS},
-        {"10fps", MTime::k10FPS},         {"12fps", MTime::k12FPS},
-        {"16fps", MTime::k16FPS},         {"20fps", MTime::k20FPS},
-        {"40fps", MTime::k40FPS},         {"75fps", MTime::k75FPS},
-        {"80fps", MTime::k80FPS},         {"100fps", MTime::k100FPS},
-        {"120fps", MTime::k120FPS},       {"125fps", MTime::k125FPS},
-        {"150fps", MTime::k150FPS},       {"200fps", MTime::k200FPS},
-        {"240fps", MTime::k240FPS},       {"250fps", MTime::k250FPS},
-        {"300fps", MTime::k300FPS},       {"375fps", MTime::k375FPS},
-        {"400fps", MTime::k400FPS},       {"500fps", MTime::k500FPS},
-        {"600fps", MTime::k600FPS},       {"750fps", MTime::k750FPS},
-        {"1200fps", MTime::k1200FPS},     {"1500fps", MTime::k1500FPS},
-        {"2000fps", MTime::k2000FPS},     {"3000fps", MTime::k3000FPS},
-        {"6000fps", MTime::k6000FPS},     {"23.976fps", MTime::k23_976FPS},
-        {"29.97fps", MTime::k29_97FPS},   {"29.97df", MTime::k29_97DF},
-        {"47.952fps", MTime::k47_952FPS}, {"59.94fps", MTime::k59_94FPS},
-        {"44100fps", MTime::k44100FPS},   {"48000fps", MTime::k48000FPS},
-        {"90fps", MTime::k90FPS},
-    };
-    for (const auto& entry : units) {
-        if (name == entry.name) {
-            *unit = entry.unit;
-            return true;
-        }
-    }
-    return false;
-}
-
-}  // namespace
 
 SceneReader::SceneReader(Diagnostics& report, PluginRequest loader)
-    : diagnostics(report),
-      requirePlugin(std::move(loader)),
-      context(report),
-      nodes(context),
-      attributes(context),
-      connections(context) {
-    for (const auto& product : kProductPlugins)
-        nodes.refuseType(product.nodeType, "node type " + quoted(product.nodeType) +
-                                               " is not registered: its plug-in " +
-                                               quoted(product.plugin) +
-                                               " is not loaded (no requires line names it)");
+    : scene(report, std::move(loader)) {
+    FileReader::refuseProductTypes(scene.types);
+}
+
+void SceneReader::setProject(const std::string& root) {
+    scene.project = root;
+    projectGiven = true;
 }
 
 bool SceneReader::read(std::string_view text) {
-    MaTokenizer tokenizer(text);
-    MaStatement statement;
-    bool ok = true;
-    while (ok && tokenizer.next(statement)) {
-        context.line = statement.line;
-        ok = apply(statement);
-    }
-    if (ok && !tokenizer.error().empty()) {
-        context.line = tokenizer.errorLine();
-        ok = context.fail(tokenizer.error());
-    }
-    diagnostics.flush();
-    return ok;
-}
-
-bool SceneReader::apply(const MaStatement& statement) {
-    const std::string& command = statement.words[0].text;
-    if (command == "createNode") return nodes.createNode(statement);
-    if (command == "setAttr") return attributes.setAttr(statement);
-    if (command == "connectAttr") return connections.connectAttr(statement);
-    if (command == "select") return nodes.select(statement);
-    if (command == "requires") return requiresCommand(statement);
-    if (command == "currentUnit") return currentUnitCommand(statement);
-    if (command == "parent") return nodes.parent(statement);
-    if (command == "addAttr") return attributes.addAttr(statement);
-    if (command == "disconnectAttr") return connections.disconnectAttr(statement);
-    return skipCommand(statement);
-}
-
-bool SceneReader::skipCommand(const MaStatement& statement) {
-    const std::string& command = statement.words[0].text;
-    if (isBookkeeping(command)) return true;
-    context.warn(quoted(command) + " commands are skipped", "skipped command");
-    return true;
-}
-
-// A plug-in that is not there is a warning, as in Maya, and its nodes are kept as unknown
-// nodes; for the fur product and the bridge, their nodes are errors.
-bool SceneReader::requiresCommand(const MaStatement& statement) {
-    MaArguments args;
-    if (!args.parse(statement, {{"nodeType", "nodeType", true}, {"dataType", "dataType", true}}))
-        return context.fail(args.error());
-    if (args.plain().empty()) return context.fail("requires: no plug-in named");
-    const std::string& plugin = args.plain()[0].text;
-    if (plugin == "maya" || plugin == kRendererPlugin) return true;
-    const std::string problem = requirePlugin(plugin);
-    if (problem.empty()) return true;
-    if (problem.compare(0, 10, "requires: ") == 0) return context.fail(problem);
-    if (const char* productType = productNodeType(plugin)) {
-        nodes.refuseType(productType, problem);
-        for (const std::string& type : args.values("nodeType")) nodes.refuseType(type, problem);
-        return true;
-    }
-    context.warn(problem + "; its nodes are kept as unknown nodes");
-    return true;
-}
-
-bool SceneReader::currentUnitCommand(const MaStatement& statement) {
-    MaArguments args;
-    if (!args.parse(statement, {{"l", "linear", true},
-                                {"a", "angle", true},
-                                {"t", "time", true},
-                                {"f", "fullName", false},
-                                {"ua", "updateAnimation", true}}))
-        return context.fail(args.error());
-    const std::string* time = args.value("t");
-    if (!time) return true;
-    MTime::Unit unit = MTime::kFilm;
-    if (!timeUnitNamed(*time, &unit))
-        return context.fail("currentUnit: unsupported time unit " + quoted(*time));
-    MTime::setUIUnit(unit);
-    return true;
+    const std::string file = scene.diagnostics.currentFile();
+    if (!projectGiven) scene.project = ReferencePath::projectOf(ReferencePath::folderOf(file));
+    char* real = realpath(file.c_str(), nullptr);
+    scene.reading.assign(1, file);
+    scene.readingIds.assign(1, real ? real : file);
+    std::free(real);
+    const bool read = FileReader(scene, file, "").read(text);
+    scene.diagnostics.setFile(file);
+    scene.diagnostics.flush();
+    return read;
 }
 
 }  // namespace xrvell

@@ -1,50 +1,40 @@
 #pragma once
 #include <maya/MObject.h>
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "AttributeCommands.h"
-#include "ConnectionCommands.h"
 #include "Diagnostics.h"
-#include "MaTokenizer.h"
-#include "NodeCommands.h"
-#include "ReadContext.h"
+#include "SceneState.h"
 
 namespace xrvell {
 
-// Builds the stand-in host's scene from a Maya ASCII file as Maya does when it opens one, in
-// layers: MaTokenizer splits the text into statements, this class hands each command to the
-// commands it belongs with (NodeCommands, AttributeCommands, ConnectionCommands), and they
-// apply it to the host. The first error stops the reading; what Maya carries on after gives a
-// warning instead. Everything Maya writes that the host does not model is kept the way Maya
-// keeps what it does not know (unknown nodes, attributes kept as written), never an error.
+// Builds the stand-in host's scene from a Maya ASCII file as Maya does when it opens one, with
+// the files it references. Each file is read by a FileReader, in layers: MaTokenizer splits the
+// text into statements, and the commands they belong with apply them to the host. The first
+// error stops the reading; what Maya carries on after gives a warning instead. Everything Maya
+// writes that the host does not model is kept the way Maya keeps what it does not know (unknown
+// nodes, attributes kept as written), never an error.
 class SceneReader {
 public:
-    // Loads the plug-in a "requires" command names; returns why it could not, or nothing.
-    using PluginRequest = std::function<std::string(const std::string& name)>;
+    using PluginRequest = SceneState::PluginRequest;
 
+    // The scene's path is the file the diagnostics name: references are found from it.
     SceneReader(Diagnostics& diagnostics, PluginRequest requirePlugin);
 
-    // False when the file has an error; the scene then holds what came before it.
+    // The Maya project references are looked for in; by default the nearest folder above the
+    // scene holding workspace.mel.
+    void setProject(const std::string& root);
+
+    // False when the scene has an error; the scene then holds what came before it.
     bool read(std::string_view text);
-    // The nodes the file created, in creation order.
-    const std::vector<MObject>& createdNodes() const { return context.createdList(); }
+    // The nodes the files created, in creation order.
+    const std::vector<MObject>& createdNodes() const { return scene.created; }
 
 private:
-    bool apply(const MaStatement& statement);
-    bool requiresCommand(const MaStatement& statement);
-    bool currentUnitCommand(const MaStatement& statement);
-    bool skipCommand(const MaStatement& statement);
-
-    Diagnostics& diagnostics;
-    PluginRequest requirePlugin;
-    ReadContext context;
-    NodeCommands nodes;
-    AttributeCommands attributes;
-    ConnectionCommands connections;
+    SceneState scene;
+    bool projectGiven = false;
 };
 
 }  // namespace xrvell
