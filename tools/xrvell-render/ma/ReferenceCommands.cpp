@@ -32,7 +32,8 @@ std::string realPath(const std::string& path) {
 }
 
 std::vector<MaWord> tokens(const std::string& arguments) {
-    MaTokenizer tokenizer(arguments + " ;");
+    const std::string text = arguments + " ;";  // the tokenizer reads it in place
+    MaTokenizer tokenizer(text);
     MaStatement statement;
     if (!tokenizer.next(statement)) return {};
     return statement.words;
