@@ -14,7 +14,7 @@ const int kMaxGeometrySamples = 1000;
 const char* const kValueOptions[] = {
     "-s",        "-e",         "-b", "-mb",         "-mbDuration",
     "-mbCenter", "-mbSamples", "-o", "-pluginPath", "-vrayPluginPath",
-    "-v"};
+    "-v",        "-proj"};
 
 bool takesValue(const std::string& name) {
     for (const char* option : kValueOptions)
@@ -69,6 +69,9 @@ const char* CommandLine::usage() {
            "                       (default: $MAYA_PLUG_IN_PATH, then the build's plug-ins)\n"
            "  -vrayPluginPath DIRS renderer plugin directories, ':'-separated\n"
            "                       (default: $VRAY_FOR_MAYA2022_PLUGINS, then the build's)\n"
+           "  -proj DIR            the Maya project referenced files are looked for in\n"
+           "                       (default: the nearest folder above the scene with\n"
+           "                       workspace.mel)\n"
            "  -v LEVEL             0 errors only, 1 also warnings and a summary (default),\n"
            "                       2 also the plug-ins loaded and each frame\n"
            "  -h                   this help\n";
@@ -149,6 +152,10 @@ bool CommandLine::option(const std::string& name, const std::string& value) {
     if (name == "-o") {
         parsed.output = value;
         return !value.empty() || fail("option -o needs a file name (\"-\" for standard output)");
+    }
+    if (name == "-proj") {
+        parsed.project = value;
+        return !value.empty() || fail("option -proj needs a folder");
     }
     if (name == "-pluginPath" || name == "-vrayPluginPath") return true;  // read beforehand
     long long whole = 0;

@@ -109,6 +109,7 @@ bool RenderJob::load(const std::string& sceneText) {
     Diagnostics diagnostics(options.scene, log, options.verbosity);
     SceneReader reader(diagnostics,
                        [this](const std::string& name) { return plugins->require(name); });
+    if (!options.project.empty()) reader.setProject(options.project);
     const bool read = reader.read(sceneText);
     warnings += diagnostics.warnings();
     errors += diagnostics.errors();

@@ -15,6 +15,7 @@ struct RenderOptions {
     bool endGiven = false;    // otherwise the first frame
     std::vector<std::string> pluginPath;
     std::vector<std::string> rendererPluginPath;
+    std::string project;  // empty: found from the scene
     int verbosity = 1;  // 0 errors only, 1 also warnings and the summary, 2 also details
 };
 

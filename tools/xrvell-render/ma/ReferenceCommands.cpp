@@ -287,10 +287,10 @@ void ReferenceCommands::mapPlaceholder(const ReferenceEdit& edit) {
     std::string key;
     const std::vector<std::string>& w = edit.words;
     if (edit.ends == 0) {
-        if (placeholderOf(w[2], &key)) placeholders[key] = w[0];
         if (placeholderOf(w[3], &key)) placeholders[key] = w[1];
-    } else if (placeholderOf(w[1], &key)) {
-        placeholders[key] = w[0];
+        if (placeholderOf(w[4], &key)) placeholders[key] = w[2];
+    } else if (placeholderOf(w[2], &key)) {
+        placeholders[key] = w[1];
     }
 }
 

@@ -1,5 +1,7 @@
 #include "ReferenceEdits.h"
 
+#include <cerrno>
+#include <climits>
 #include <cstdlib>
 
 namespace xrvell {
@@ -11,7 +13,7 @@ size_t wordsOf(int kind, int ends) {
         case ReferenceEdit::AddAttr:
             return 4;
         case ReferenceEdit::Placeholder:
-            return ends == 0 ? 5 : 3;
+            return ends == 0 ? 6 : 4;
         case ReferenceEdit::LockAttr:
         case ReferenceEdit::UnlockAttr:
             return 2;
@@ -23,8 +25,9 @@ size_t wordsOf(int kind, int ends) {
 bool isNumber(const MaWord& word) {
     if (word.quoted || word.text.empty()) return false;
     char* end = nullptr;
-    std::strtol(word.text.c_str(), &end, 10);
-    return *end == '\0';
+    errno = 0;
+    const long value = std::strtol(word.text.c_str(), &end, 10);
+    return *end == '\0' && errno == 0 && value >= INT_MIN && value <= INT_MAX;
 }
 
 }  // namespace

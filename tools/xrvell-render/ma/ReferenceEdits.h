@@ -22,9 +22,9 @@ struct ReferenceEdit {
         UnlockAttr = 9,      // node, attribute
     };
     int kind = 0;
-    // For a placeholder connection, which ends are in the reference: 0 both (source,
-    // destination, their two placeholders, the original name), otherwise one (plug,
-    // placeholder, the original name).
+    // For a placeholder connection, which ends are in the reference: 0 both (reference node,
+    // source, destination, their two placeholders, the original name), otherwise one
+    // (reference node, plug, placeholder, the original name).
     int ends = 0;
     std::vector<std::string> words;
     std::string section;  // the reference node whose file's nodes the edit names
