@@ -230,6 +230,30 @@ TEST_F(References, ACycleIsAnErrorNamingTheChain) {
         << result.err;
 }
 
+TEST_F(References, FileLinesThatDoNotReadAreErrors) {
+    const struct {
+        const char* line;
+        const char* error;
+    } cases[] = {
+        {"file -r -ns \"a b\" \"char.ma\";",
+         "shot.ma:1: error: file -r: \"a b\" is not a valid namespace (letters, digits and '_', "
+         "not starting with a digit; ':' between namespaces)"},
+        {"file -r -ns \"char\";", "shot.ma:1: error: file -r: expects one file path"},
+        {"file -r -xyz \"char.ma\";", "shot.ma:1: error: file: unknown flag \"-xyz\""},
+        {"createNode reference -n \"cRN\";\nsetAttr \".ed\" -type \"dataReferenceEdits\" "
+         "\"cRN\" \"cRN\" 1 2 \"n\";",
+         "shot.ma:2: error: dataReferenceEdits: ends inside an edit"},
+    };
+    write("char.ma", kCharacter);
+    for (const auto& c : cases) {
+        write("shot.ma", c.line + std::string("\n"));
+        const ToolResult result = render("shot.ma");
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err.substr(0, result.err.find('\n')), c.error);
+    }
+}
+
 TEST_F(References, MessagesNameTheReferencedFileAndLine) {
     write("char.ma", kCharacter + "polyCube -n \"box\";\n");
     write("shot.ma", "//Maya ASCII 2022 scene\n" + referenceLines("char", "char.ma") + kPlugins);

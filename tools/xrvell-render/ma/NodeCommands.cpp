@@ -9,25 +9,6 @@
 namespace xrvell {
 namespace {
 
-bool isNamePart(const std::string& part) {
-    if (part.empty() || std::isdigit(static_cast<unsigned char>(part[0]))) return false;
-    for (char c : part)
-        if (!std::isalnum(static_cast<unsigned char>(c)) && c != '_') return false;
-    return true;
-}
-
-// Maya's node names: letters, digits and '_', not starting with a digit, with ':' between
-// namespaces. Anything else would also break the .vrscene the name is written into.
-bool isNodeName(const std::string& name) {
-    size_t start = 0;
-    for (;;) {
-        const size_t colon = name.find(':', start);
-        if (!isNamePart(name.substr(start, colon - start))) return false;
-        if (colon == std::string::npos) return true;
-        start = colon + 1;
-    }
-}
-
 // The name -n gives: ":name" is the same name in the root namespace.
 std::string writtenName(const MaArguments& args) {
     const std::string* name = args.value("n");
@@ -42,6 +23,25 @@ std::string invalidName(const std::string& name) {
 }
 
 }  // namespace
+
+static bool isNamePart(const std::string& part) {
+    if (part.empty() || std::isdigit(static_cast<unsigned char>(part[0]))) return false;
+    for (char c : part)
+        if (!std::isalnum(static_cast<unsigned char>(c)) && c != '_') return false;
+    return true;
+}
+
+// Maya's node names: letters, digits and '_', not starting with a digit, with ':' between
+// namespaces. Anything else would also break the .vrscene the name is written into.
+bool NodeCommands::isNodeName(const std::string& name) {
+    size_t start = 0;
+    for (;;) {
+        const size_t colon = name.find(':', start);
+        if (!isNamePart(name.substr(start, colon - start))) return false;
+        if (colon == std::string::npos) return true;
+        start = colon + 1;
+    }
+}
 
 NodeCommands::NodeCommands(ReadContext& shared, NodeTypeRules& typeRules)
     : context(shared), rules(typeRules) {}

@@ -22,6 +22,10 @@ class NodeCommands {
 public:
     NodeCommands(ReadContext& context, NodeTypeRules& rules);
 
+    // Maya's node names: letters, digits and '_', not starting with a digit, with ':' between
+    // namespaces.
+    static bool isNodeName(const std::string& name);
+
     bool createNode(const MaStatement& statement);
     bool select(const MaStatement& statement);
     bool parent(const MaStatement& statement);

@@ -103,6 +103,10 @@ bool ReferenceCommands::reference(const MaArguments& args) {
         added.nameSpace = name.substr(1);
     else
         added.nameSpace = outer.empty() ? name : outer + ":" + name;
+    if (!added.nameSpace.empty() && !NodeCommands::isNodeName(added.nameSpace))
+        return context.fail("file -r: " + quoted(name) +
+                            " is not a valid namespace (letters, digits and '_', not starting "
+                            "with a digit; ':' between namespaces)");
     const std::string* node = args.value("rfn");
     added.node = node ? context.sceneName(*node) : added.nameSpace + "RN";
     added.type = args.value("typ") ? *args.value("typ") : "";
