@@ -95,7 +95,8 @@ bool ReferenceCommands::reference(const MaArguments& args) {
     added.written = args.plain()[0].text;
     const std::string* ns = args.value("ns");
     const std::string* prefix = args.value("rpr");
-    const std::string name = ns ? *ns : prefix ? *prefix : withoutExtension(added.written);
+    // An old-style reference, with a renaming prefix and no namespace, keeps its nodes' names.
+    const std::string name = ns ? *ns : prefix ? ":" : withoutExtension(added.written);
     const std::string& outer = context.nameSpace();
     if (name.empty() || name == ":")
         added.nameSpace = outer;
@@ -108,7 +109,7 @@ bool ReferenceCommands::reference(const MaArguments& args) {
                             " is not a valid namespace (letters, digits and '_', not starting "
                             "with a digit; ':' between namespaces)");
     const std::string* node = args.value("rfn");
-    added.node = node ? context.sceneName(*node) : added.nameSpace + "RN";
+    added.node = node ? context.sceneName(*node) : withoutExtension(added.written) + "RN";
     added.type = args.value("typ") ? *args.value("typ") : "";
     added.line = context.line;
     const bool deferred = isTrue(args.value("dr"));
