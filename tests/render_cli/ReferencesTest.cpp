@@ -254,6 +254,18 @@ TEST_F(References, FileLinesThatDoNotReadAreErrors) {
     }
 }
 
+// Opening a shot does not take the current frame or units from the files it references.
+TEST_F(References, AReferencedFilesTimeSettingsAreNotTheShots) {
+    write("char.ma", "currentUnit -t ntsc;\n" + kCharacter +
+                         "select -ne :time1;\n\tsetAttr -k on \".o\" 40;\n\tsetAttr \".o\" 40;\n");
+    write("shot.ma", "//Maya ASCII 2022 scene\n" + referenceLines("char", "char.ma") + kPlugins +
+                         "select -ne :time1;\n\tsetAttr \".o\" 7;\n");
+    const ToolResult result = ToolRun::run({TOOL_PATH, "-o", "-", "shot.ma"}, directory.string());
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(valueIn(result.out, "char:bridgeShape", "sampleGenerator"), "ListFloat(7)");
+    EXPECT_EQ(valueIn(result.out, "char:bridgeShape", "file"), "\"/cache/fur.0007.xvc\"");
+}
+
 TEST_F(References, MessagesNameTheReferencedFileAndLine) {
     write("char.ma", kCharacter + "polyCube -n \"box\";\n");
     write("shot.ma", "//Maya ASCII 2022 scene\n" + referenceLines("char", "char.ma") + kPlugins);

@@ -80,11 +80,10 @@ bool timeUnitNamed(const std::string& name, MTime::Unit* unit) {
     return false;
 }
 
+// setAttr ".attr": Maya writes the plug as the first quoted word.
 bool isRelativePlug(const MaStatement& statement) {
-    for (size_t i = 1; i < statement.words.size(); ++i) {
-        const MaWord& word = statement.words[i];
-        if (word.quoted || word.text.empty() || word.text[0] != '-') return word.text[0] == '.';
-    }
+    for (size_t i = 1; i < statement.words.size(); ++i)
+        if (statement.words[i].quoted) return statement.words[i].text[0] == '.';
     return false;
 }
 
