@@ -14,6 +14,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 
 class SceneProblems : public ::testing::Test {
 protected:
@@ -54,6 +55,39 @@ std::string withLineEnds(const std::string& text, const std::string& end) {
     std::string out;
     for (char c : text) out += c == '\n' ? end : std::string(1, c);
     return out;
+}
+
+TEST_F(SceneProblems, AFileThatIsNotMayaAsciiIsOneErrorSayingWhatItIs) {
+    const std::string utf16 = "/\0/\0M\0a\0y\0a\0 \0A\0S\0C\0I\0I\0"s;
+    const struct {
+        const char* file;
+        std::string bytes;
+        const char* what;
+    } cases[] = {
+        {"shot.mb", "FOR4\0\0\x12\x34Maya"s + std::string(64, '\x01'),
+         "is a binary Maya file: only Maya ASCII is read (save the scene as Maya ASCII, .ma)"},
+        {"renamed.ma", "FOR8\0\0\0\0\0\0\x12\x34Maya"s,
+         "is a binary Maya file: only Maya ASCII is read (save the scene as Maya ASCII, .ma)"},
+        {"shot.ma.gz", "\x1F\x8B\x08\0\0\0\0\0\0\x03\x4B\x4C"s,
+         "is a gzip-compressed file: only Maya ASCII is read (uncompress it first)"},
+        {"marked.ma", "\xFF\xFE"s + utf16,
+         "is UTF-16 text: only Maya ASCII is read, which is 8-bit text (save it as UTF-8)"},
+        {"bigEndian.ma", "\0"s + utf16.substr(0, utf16.size() - 1),
+         "is UTF-16 text: only Maya ASCII is read, which is 8-bit text (save it as UTF-8)"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.file);
+        fs::remove_all(directory);
+        fs::create_directories(directory);
+        writeFile(directory / c.file, c.bytes);
+        const ToolResult result = run({c.file});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(
+            beforeSummary(result.err, "0 frames, 0 nodes, 0 plugin instances, 0 warnings, 1 error"),
+            "xrvell-render: \"" + std::string(c.file) + "\" " + c.what + "\n");
+        EXPECT_EQ(files(), std::vector<std::string>{c.file}) << "something was written";
+    }
 }
 
 TEST_F(SceneProblems, EveryLineEndRendersTheSameScene) {

@@ -85,6 +85,8 @@ bool RenderJob::readScene(std::string* text) {
     SceneFile file;
     std::string problem;
     if (!file.read(options.scene, &problem)) return fail(problem);
+    problem = SceneFile::notMayaAscii(options.scene, file.text);
+    if (!problem.empty()) return fail(problem);
     sceneDevice = file.device;
     sceneInode = file.inode;
     text->swap(file.text);
