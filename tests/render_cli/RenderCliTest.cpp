@@ -175,7 +175,7 @@ TEST_F(RenderCliTest, BadSceneExitsWithItsErrorAndWritesNothing) {
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(result.out, "");
         EXPECT_EQ(withoutSummary(result.err, kNothingRendered),
-                  bad.error + "\nxrvell-render: stopped at the first error; nothing written\n");
+                  bad.error + "\nxrvell-render: 1 error; nothing written\n");
         EXPECT_EQ(contentsOf(directory / "old.vrscene"), "an earlier render\n");
         EXPECT_EQ(files(), (std::vector<std::string>{"bad.ma", "old.vrscene"}));
     }

@@ -16,6 +16,10 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
+const char* const kPlugins =
+    "requires \"xrVellMaya\" \"1.0\";\nrequires \"xrVellVRayMaya\" \"1.0\";\n"
+    "createNode xrVellMaya -n \"fur\";\n";
+
 class SceneProblems : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -102,6 +106,40 @@ TEST_F(SceneProblems, EveryLineEndRendersTheSameScene) {
         EXPECT_EQ(beforeSummary(result.err, "1 frame, 2 nodes, 2 plugin instances, 0 warnings"),
                   "");
         EXPECT_EQ(result.out, lf.out);
+    }
+}
+
+TEST_F(SceneProblems, EveryErrorIsShownUpToAHundredThenCountedAndNothingIsWritten) {
+    const struct {
+        int errors;
+        size_t linesShown;
+        const char* tally;
+    } cases[] = {
+        {3, 3, "3 errors; nothing written"},
+        {100, 100, "100 errors; nothing written"},
+        {130, 100, "130 errors, 30 of them not shown; nothing written"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.errors);
+        std::string scene = kPlugins;
+        for (int i = 0; i < c.errors; ++i)
+            scene += "setAttr \"fur.rd\" " + std::to_string(i) + "x;\n";
+        writeFile(directory / "shot.ma", scene);
+        writeFile(directory / "shot.vrscene", "an earlier render\n");
+        const ToolResult result = run({"shot.ma"});
+        EXPECT_EQ(result.status, 1);
+        const std::string shown =
+            beforeSummary(result.err, "0 frames, 0 nodes, 0 plugin instances, 0 warnings, " +
+                                          std::to_string(c.errors) + " errors");
+        EXPECT_EQ(static_cast<size_t>(std::count(shown.begin(), shown.end(), '\n')),
+                  c.linesShown + 1);
+        EXPECT_EQ(shown.substr(0, shown.find('\n') + 1),
+                  "shot.ma:4: error: \"fur.rd\" expects a number, not \"0x\"\n");
+        const std::string last = "xrvell-render: " + std::string(c.tally) + "\n";
+        ASSERT_GE(shown.size(), last.size());
+        EXPECT_EQ(shown.substr(shown.size() - last.size()), last);
+        EXPECT_EQ(contentsOf(directory / "shot.vrscene"), "an earlier render\n");
+        EXPECT_EQ(files(), (std::vector<std::string>{"shot.ma", "shot.vrscene"}));
     }
 }
 

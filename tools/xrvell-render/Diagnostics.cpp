@@ -10,8 +10,7 @@ Diagnostics::Diagnostics(std::string fileName, std::FILE* output, int level)
     : file(std::move(fileName)), stream(output), verbosity(level) {}
 
 void Diagnostics::error(int line, const std::string& text) {
-    ++errorCount;
-    report(file, line, "error", text, true);
+    if (++errorCount <= kShownErrors) report(file, line, "error", text, true);
 }
 
 void Diagnostics::warning(int line, const std::string& text, const std::string& kind) {

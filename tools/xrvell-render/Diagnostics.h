@@ -11,9 +11,12 @@ namespace xrvell {
 // escapes (see VisibleText). Errors are shown as they are found. At the default verbosity (1)
 // the warnings of one kind are held back and shown as one line when the reading ends, the first
 // with a count of the others; verbosity 2 shows each warning as it comes, and notes besides;
-// verbosity 0 shows errors only, though warnings are still counted.
+// verbosity 0 shows errors only, though warnings are still counted. Only the first
+// kShownErrors errors are shown; the others are counted.
 class Diagnostics {
 public:
+    static constexpr int kShownErrors = 100;
+
     // A null stream only keeps the lines.
     Diagnostics(std::string file, std::FILE* stream, int verbosity = 1);
 
@@ -31,6 +34,7 @@ public:
     void setFile(std::string name) { file = std::move(name); }
 
     int errors() const { return errorCount; }
+    int hiddenErrors() const { return errorCount > kShownErrors ? errorCount - kShownErrors : 0; }
     int warnings() const { return warningCount; }
     // The lines shown so far (at verbosity 0, what verbosity 1 would show).
     const std::vector<std::string>& lines() const { return reported; }

@@ -70,7 +70,9 @@ int RenderJob::runSteps() {
     std::string text;
     if (!readScene(&text) || !outputIsNotTheScene()) return 1;
     if (!load(text) || !resolveFrames()) {
-        std::fprintf(log, "xrvell-render: stopped at the first error; nothing written\n");
+        std::string tally = counted(static_cast<size_t>(errors), "error", "errors");
+        if (hiddenErrors > 0) tally += ", " + std::to_string(hiddenErrors) + " of them not shown";
+        std::fprintf(log, "xrvell-render: %s; nothing written\n", tally.c_str());
         return 1;
     }
     std::string().swap(text);  // the host holds the scene now
@@ -114,6 +116,7 @@ bool RenderJob::load(const std::string& sceneText) {
     const bool read = reader.read(sceneText);
     warnings += diagnostics.warnings();
     errors += diagnostics.errors();
+    hiddenErrors = diagnostics.hiddenErrors();
     if (read && options.verbosity >= 2) printDetails();
     return read;
 }

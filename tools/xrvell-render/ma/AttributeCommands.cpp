@@ -79,7 +79,7 @@ AttributeCommands::AttributeCommands(ReadContext& shared) : context(shared) {}
 bool AttributeCommands::target(const std::string& text, MObject* node, PlugText* plug) {
     if (!text.empty() && text[0] == '.') {
         if (context.selected().isNull())
-            return context.fail("setAttr " + quoted(text) + ": no node is selected");
+            return context.fail("setAttr " + quoted(text) + ": " + context.noSelection());
         *node = context.selected();
         *plug = PlugText{context.selectedName(), text.substr(1)};
         return true;
@@ -190,7 +190,7 @@ bool AttributeCommands::addAttr(const MaStatement& statement) {
     MObject node = context.selected();
     if (!plain.empty() && !context.findNode(plain.back()->text, "addAttr: no node ", &node))
         return false;
-    if (node.isNull()) return context.fail("addAttr: no node is selected");
+    if (node.isNull()) return context.fail("addAttr: " + context.noSelection());
     mayahost::addKeptAttribute(node, longName, shortName);
     return true;
 }

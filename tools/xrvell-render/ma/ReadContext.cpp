@@ -52,6 +52,16 @@ bool ReadContext::splitPlug(const std::string& text, PlugText* plug) {
 void ReadContext::select(const MObject& node, const std::string& name) {
     selectedNode = node;
     selectedText = name;
+    unselectedBy.clear();
+}
+
+void ReadContext::unselect(const std::string& why) {
+    select(MObject(), "");
+    unselectedBy = why;
+}
+
+std::string ReadContext::noSelection() const {
+    return "no node is selected" + (unselectedBy.empty() ? "" : " (" + unselectedBy + ")");
 }
 
 }  // namespace xrvell

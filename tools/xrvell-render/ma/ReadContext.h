@@ -37,6 +37,11 @@ public:
     void select(const MObject& node, const std::string& name);
     const MObject& selected() const { return selectedNode; }
     const std::string& selectedName() const { return selectedText; }
+    // After a createNode or select that failed, nothing is selected: the lines that follow were
+    // meant for the node it failed to make or find, not the one before. `why` names the command.
+    void unselect(const std::string& why);
+    // "no node is selected", and why when a failed command left nothing selected.
+    std::string noSelection() const;
 
     void created(const MObject& node) { createdNodes.push_back(node); }
     const std::vector<MObject>& createdList() const { return createdNodes; }
@@ -47,6 +52,7 @@ private:
     Diagnostics& diagnostics;
     MObject selectedNode;
     std::string selectedText;  // as the scene named it
+    std::string unselectedBy;
     std::vector<MObject> createdNodes;
 };
 

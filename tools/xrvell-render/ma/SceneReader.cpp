@@ -82,6 +82,23 @@ bool timeUnitNamed(const std::string& name, MTime::Unit* unit) {
     return false;
 }
 
+// The node a createNode or select names ("-n" for createNode, the last plain word for select),
+// for the messages of the lines that were meant for it; empty for other commands.
+std::string failedTarget(const MaStatement& statement) {
+    const std::vector<MaWord>& words = statement.words;
+    const std::string& command = words[0].text;
+    if (command != "createNode" && command != "select") return "";
+    std::string name;
+    for (size_t i = 1; i < words.size(); ++i) {
+        const bool flag = !words[i].quoted && words[i].text[0] == '-';
+        const bool nameFlag = flag && (words[i].text == "-n" || words[i].text == "-name");
+        if (command == "createNode" && nameFlag && i + 1 < words.size()) name = words[++i].text;
+        if (command == "select" && !flag) name = words[i].text;
+    }
+    const std::string of = name.empty() ? "" : " of " + quoted(name);
+    return "the " + command + of + " at line " + std::to_string(statement.line) + " failed";
+}
+
 }  // namespace
 
 SceneReader::SceneReader(Diagnostics& report, PluginRequest loader)
@@ -98,15 +115,20 @@ SceneReader::SceneReader(Diagnostics& report, PluginRequest loader)
                                                " is not loaded (no requires line names it)");
 }
 
+// Each failing command is reported and the reading goes on, as in Maya, so one run shows every
+// error; a syntax error ends it, since what follows cannot be told apart.
 bool SceneReader::read(std::string_view text) {
     MaTokenizer tokenizer(text);
     MaStatement statement;
     bool ok = true;
-    while (ok && tokenizer.next(statement)) {
+    while (tokenizer.next(statement)) {
         context.line = statement.line;
-        ok = apply(statement);
+        if (apply(statement)) continue;
+        ok = false;
+        const std::string target = failedTarget(statement);
+        if (!target.empty()) context.unselect(target);
     }
-    if (ok && !tokenizer.error().empty()) {
+    if (!tokenizer.error().empty()) {
         context.line = tokenizer.errorLine();
         ok = context.fail(tokenizer.error());
     }
