@@ -13,6 +13,7 @@
 
 #include "Diagnostics.h"
 #include "PluginPath.h"
+#include "SceneChecks.h"
 #include "SceneFile.h"
 #include "SceneReader.h"
 
@@ -62,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     xrvell::SceneFile::notMayaAscii("fuzz.ma", text);
     xrvell::Diagnostics diagnostics("fuzz.ma", nullptr);
     xrvell::SceneReader reader(diagnostics, alreadyLoaded);
-    reader.read(text);
+    if (reader.read(text)) xrvell::SceneChecks(diagnostics).run();
     restoreHost();
     return 0;
 }

@@ -143,4 +143,31 @@ TEST_F(SceneProblems, EveryErrorIsShownUpToAHundredThenCountedAndNothingIsWritte
     }
 }
 
+// Defaults or nothing rendered are warnings: the render is still written and the job succeeds.
+TEST_F(SceneProblems, ABridgeWithoutFurOrASceneWithoutABridgeWarnsAndRenders) {
+    const struct {
+        std::string scene;
+        const char* warning;
+        const char* summary;
+        const char* block;
+    } cases[] = {
+        {kPlugins + "createNode xrVellMayaVRay -n \"bridge\";\n"s,
+         "shot.ma: warning: bridge \"bridge\": nothing feeds its inputData; the renderer would "
+         "receive the defaults\n",
+         "1 frame, 1 node, 1 plugin instance, 1 warning, 0 errors", "xrVellVRay bridge {"},
+        {kPlugins,
+         "shot.ma: warning: the scene has no xrVellMayaVRay node: there is nothing to "
+         "render\n",
+         "1 frame, 0 nodes, 0 plugin instances, 1 warning, 0 errors", "// Frame 1:"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.warning);
+        writeFile(directory / "shot.ma", c.scene);
+        const ToolResult result = run({"shot.ma"});
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(beforeSummary(result.err, c.summary), c.warning);
+        EXPECT_NE(contentsOf(directory / "shot.vrscene").find(c.block), std::string::npos);
+    }
+}
+
 }  // namespace

@@ -43,8 +43,8 @@ void Diagnostics::flush() {
 // Scene text quoted in a message may hold any byte: each message stays one visible line.
 void Diagnostics::report(const std::string& fileName, int line, const char* kind,
                          const std::string& text, bool show) {
-    std::string formatted =
-        VisibleText::of(fileName + ":" + std::to_string(line) + ": " + kind + ": " + text);
+    const std::string where = line > 0 ? fileName + ":" + std::to_string(line) : fileName;
+    std::string formatted = VisibleText::of(where + ": " + kind + ": " + text);
     if (stream && show) {
         formatted += '\n';
         std::fwrite(formatted.data(), 1, formatted.size(), stream);

@@ -12,7 +12,8 @@ namespace xrvell {
 // the warnings of one kind are held back and shown as one line when the reading ends, the first
 // with a count of the others; verbosity 2 shows each warning as it comes, and notes besides;
 // verbosity 0 shows errors only, though warnings are still counted. Only the first
-// kShownErrors errors are shown; the others are counted.
+// kShownErrors errors are shown; the others are counted. A line of 0 is the file as a whole
+// ("FILE: warning: text").
 class Diagnostics {
 public:
     static constexpr int kShownErrors = 100;

@@ -16,6 +16,7 @@
 #include "PluginPath.h"
 #include "ProgressLine.h"
 #include "RenderDriver.h"
+#include "SceneChecks.h"
 #include "SceneFile.h"
 #include "SceneReader.h"
 #include "VisibleText.h"
@@ -114,6 +115,10 @@ bool RenderJob::load(const std::string& sceneText) {
     SceneReader reader(diagnostics,
                        [this](const std::string& name) { return plugins->require(name); });
     const bool read = reader.read(sceneText);
+    if (read) {
+        SceneChecks(diagnostics).run();
+        diagnostics.flush();
+    }
     warnings += diagnostics.warnings();
     errors += diagnostics.errors();
     hiddenErrors = diagnostics.hiddenErrors();
