@@ -121,4 +121,17 @@ TEST_F(EveryErrorTest, ASyntaxErrorEndsTheReadingAfterTheErrorsBeforeIt) {
     EXPECT_TRUE(mayahost::findNode("b").isNull());
 }
 
+// A Maya file with old Mac line ends, cut in its last command: both problems at the right line.
+TEST_F(EveryErrorTest, ACutFileIsReportedAtItsLastLineWhateverItsLineEnds) {
+    EXPECT_FALSE(
+        read("//Maya ASCII 2022 scene\r//Name: shot.ma\rrequires maya \"2022\";\r"
+             "createNode transform -n \"t\";\r\tsetAttr \".tx\" 1;\r\r\tsetAttr \".ty\"\r 2"));
+    const std::vector<std::string> expected = {
+        "scene.ma:7: error: missing ';' at the end of the command",
+        "scene.ma:8: warning: the file ends without the line Maya closes its files with (\"// End "
+        "of shot.ma\"): it may be truncated"};
+    EXPECT_EQ(diagnostics.lines(), expected);
+    EXPECT_EQ(value("t", "tx"), 1.0);
+}
+
 }  // namespace

@@ -172,7 +172,7 @@ TEST_F(RenderCliTest, BadSceneExitsWithItsErrorAndWritesNothing) {
     };
     for (const BadScene& bad : cases) {
         SCOPED_TRACE(bad.name);
-        writeFile(directory / "bad.ma", bad.text);
+        writeFile(directory / "bad.ma", bad.text + "// End of bad.ma\n");
         writeFile(directory / "old.vrscene", "an earlier render\n");
         const ToolResult result = run({"-o", "old.vrscene", "bad.ma"}, directory.string(),
                                       {"MAYA_PLUG_IN_PATH=" + directory.string()});

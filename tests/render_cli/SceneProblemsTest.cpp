@@ -109,6 +109,28 @@ TEST_F(SceneProblems, EveryLineEndRendersTheSameScene) {
     }
 }
 
+// A copy cut after its first bridge's connections renders the second bridge's defaults: both
+// the cut and its consequence are told, and the render goes on. A renamed copy is whole.
+TEST_F(SceneProblems, ACutSceneWarnsThatItMayBeTruncatedAndARenamedOneDoesNot) {
+    writeFile(directory / "take2.ma", demo);
+    ToolResult result = run({"-o", "-", "take2.ma"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(beforeSummary(result.err, "1 frame, 2 nodes, 2 plugin instances, 0 warnings"), "");
+
+    const size_t cut = demo.find("connectAttr \"furManeShape.od\"");
+    ASSERT_NE(cut, std::string::npos);
+    writeFile(directory / "take2.ma", demo.substr(0, cut));
+    result = run({"take2.ma"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(beforeSummary(result.err, "1 frame, 2 nodes, 2 plugin instances, 2 warnings"),
+              "take2.ma:60: warning: the file ends without the line Maya closes its files with "
+              "(\"// End of demo.ma\"): it may be truncated\n"
+              "take2.ma: warning: bridge \"furManeVRayShape\": nothing feeds its inputData; the "
+              "renderer would receive the defaults\n");
+    EXPECT_NE(contentsOf(directory / "take2.vrscene").find("xrVellVRay furManeVRayShape {"),
+              std::string::npos);
+}
+
 TEST_F(SceneProblems, EveryErrorIsShownUpToAHundredThenCountedAndNothingIsWritten) {
     const struct {
         int errors;

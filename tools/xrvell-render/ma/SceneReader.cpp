@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "MaArguments.h"
+#include "TruncationCheck.h"
 
 namespace xrvell {
 namespace {
@@ -132,6 +133,8 @@ bool SceneReader::read(std::string_view text) {
         context.line = tokenizer.errorLine();
         ok = context.fail(tokenizer.error());
     }
+    const std::string truncated = TruncationCheck::problem(text, &context.line);
+    if (!truncated.empty()) context.warn(truncated);
     diagnostics.flush();
     return ok;
 }
