@@ -56,7 +56,8 @@ TEST_F(EveryErrorTest, EachFailingCommandIsReportedAndTheOthersApply) {
 }
 
 // After a createNode or select -ne that fails, Maya has not selected the node the following
-// lines were written for: they fail, saying why, and the node before keeps its values.
+// lines were written for: they fail, saying why, as one line with a count, and the node before
+// keeps its values.
 TEST_F(EveryErrorTest, LinesMeantForAFailedNodeLandOnNoOtherNode) {
     const struct {
         const char* command;
@@ -72,23 +73,30 @@ TEST_F(EveryErrorTest, LinesMeantForAFailedNodeLandOnNoOtherNode) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.command);
-        mayahost::reset();
-        diagnostics = xrvell::Diagnostics("scene.ma", nullptr);
-        plugins = xrvell::PluginPath({PLUGIN_DIR});
-        EXPECT_FALSE(read(kPrelude + c.command +
-                          "\n"
-                          "\tsetAttr \".rw\" 9;\n"                             // 6
-                          "\taddAttr -ci true -ln \"note\" -dt \"string\";\n"  // 7
-                          "select -ne furShape;\n"                             // 8
-                          "\tsetAttr \".rd\" 2;\n"));                          // 9
-        const std::vector<std::string>& lines = diagnostics.lines();
-        ASSERT_EQ(lines.size(), 3u);
-        EXPECT_EQ(lines[1], "scene.ma:6: error: setAttr \".rw\": no node is selected (" +
-                                std::string(c.why) + ")");
-        EXPECT_EQ(lines[2],
-                  "scene.ma:7: error: addAttr: no node is selected (" + std::string(c.why) + ")");
-        EXPECT_EQ(value("furShape", "rw"), 0.5) << "a line for the failed node changed another";
-        EXPECT_EQ(value("furShape", "rd"), 2.0) << "a later select -ne did not select again";
+        for (int verbosity : {1, 2}) {
+            mayahost::reset();
+            diagnostics = xrvell::Diagnostics("scene.ma", nullptr, verbosity);
+            plugins = xrvell::PluginPath({PLUGIN_DIR});
+            EXPECT_FALSE(read(kPrelude + c.command +
+                              "\n"
+                              "\tsetAttr \".rw\" 9;\n"                             // 6
+                              "\taddAttr -ci true -ln \"note\" -dt \"string\";\n"  // 7
+                              "select -ne furShape;\n"                             // 8
+                              "\tsetAttr \".rd\" 2;\n"));                          // 9
+            const std::string why = std::string(" (") + c.why + ")";
+            const std::vector<std::string> expected[] = {
+                {"scene.ma:6: error: setAttr \".rw\": no node is selected" + why +
+                 " (and 1 more like it, to line 7; -v 2 lists each)"},
+                {"scene.ma:6: error: setAttr \".rw\": no node is selected" + why,
+                 "scene.ma:7: error: addAttr: no node is selected" + why}};
+            const std::vector<std::string>& lines = diagnostics.lines();
+            ASSERT_FALSE(lines.empty());
+            EXPECT_EQ(std::vector<std::string>(lines.begin() + 1, lines.end()),
+                      expected[verbosity - 1]);
+            EXPECT_EQ(diagnostics.errors(), 3);
+            EXPECT_EQ(value("furShape", "rw"), 0.5) << "a line for the failed node changed another";
+            EXPECT_EQ(value("furShape", "rd"), 2.0) << "a later select -ne did not select again";
+        }
     }
 }
 

@@ -60,8 +60,10 @@ void ReadContext::unselect(const std::string& why) {
     unselectedBy = why;
 }
 
-std::string ReadContext::noSelection() const {
-    return "no node is selected" + (unselectedBy.empty() ? "" : " (" + unselectedBy + ")");
+bool ReadContext::failUnselected(const std::string& what) {
+    const std::string why = unselectedBy.empty() ? "" : " (" + unselectedBy + ")";
+    diagnostics.error(line, what + ": no node is selected" + why, unselectedBy);
+    return false;
 }
 
 }  // namespace xrvell

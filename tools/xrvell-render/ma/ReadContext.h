@@ -40,8 +40,9 @@ public:
     // After a createNode or select that failed, nothing is selected: the lines that follow were
     // meant for the node it failed to make or find, not the one before. `why` names the command.
     void unselect(const std::string& why);
-    // "no node is selected", and why when a failed command left nothing selected.
-    std::string noSelection() const;
+    // Reports that `what` ("setAttr ".rd"") has no node selected, and why when a failed command
+    // left none: the lines meant for one failed node are one error line with a count.
+    bool failUnselected(const std::string& what);
 
     void created(const MObject& node) { createdNodes.push_back(node); }
     const std::vector<MObject>& createdList() const { return createdNodes; }
