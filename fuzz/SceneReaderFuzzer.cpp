@@ -13,6 +13,8 @@
 
 #include "Diagnostics.h"
 #include "PluginPath.h"
+#include "SceneChecks.h"
+#include "SceneFile.h"
 #include "SceneReader.h"
 
 namespace {
@@ -57,9 +59,11 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    xrvell::SceneFile::notMayaAscii("fuzz.ma", text);
     xrvell::Diagnostics diagnostics("fuzz.ma", nullptr);
     xrvell::SceneReader reader(diagnostics, alreadyLoaded);
-    reader.read(std::string_view(reinterpret_cast<const char*>(data), size));
+    if (reader.read(text)) xrvell::SceneChecks(diagnostics).run();
     restoreHost();
     return 0;
 }

@@ -48,6 +48,37 @@ TEST(MaTokenizerTest, SplitsCommandsAcrossLinesAndComments) {
     EXPECT_EQ(error, "");
 }
 
+std::string withLineEnds(const std::string& text, const std::string& end) {
+    std::string out;
+    for (char c : text) out += c == '\n' ? end : std::string(1, c);
+    return out;
+}
+
+// Old Mac files end lines with a lone CR, Windows files with CR LF: the same commands, comments
+// and lines as with LF, including in a file that mixes them.
+TEST(MaTokenizerTest, ReadsEveryLineEndAlike) {
+    const std::string text =
+        "//Maya ASCII 2022 scene\n"
+        "requires maya \"2022\"; // a note\n"
+        "\n"
+        "createNode transform\n"
+        "\t-n \"a\";\n"
+        "setAttr \".x\" 1;";
+    const std::vector<std::string> expected = {
+        "2: requires maya <2022>", "4: createNode transform -n <a>", "6: setAttr <.x> 1"};
+    for (const char* end : {"\n", "\r\n", "\r"}) {
+        SCOPED_TRACE(::testing::PrintToString(std::string(end)));
+        std::string error;
+        EXPECT_EQ(statements(withLineEnds(text, end), &error), expected);
+        EXPECT_EQ(error, "");
+    }
+    const std::string mixed = "a;\r\nb;\rc;\n\r\r\nd;";
+    EXPECT_EQ(statements(mixed), (std::vector<std::string>{"1: a", "2: b", "3: c", "6: d"}));
+    std::string error;
+    EXPECT_EQ(statements("a;\rsetAttr \".x\" \"open\r;\r", &error).size(), 1u);
+    EXPECT_EQ(error, "2: unterminated string");
+}
+
 TEST(MaTokenizerTest, UnescapesStrings) {
     EXPECT_EQ(statements("setAttr \"a\\\"b\\\\c\\nd\\te\\q\" \"\";"),
               std::vector<std::string>{"1: setAttr <a\"b\\c\nd\teq> <>"});

@@ -150,7 +150,11 @@ TEST_F(RenderCliTest, BadSceneExitsWithItsErrorAndWritesNothing) {
          "createNode xrVellMayaVRay -n \"x\";\n",
          "bad.ma:1: error: node type \"xrVellMayaVRay\" is not registered: its plug-in "
          "\"xrVellVRayMaya\" is not loaded (no requires line names it)"},
-        {"time", prelude + "select -ne :time1;\n\tsetAttr \".o\" 1e16;\n",
+        {"time",
+         prelude + "requires \"xrVellVRayMaya\" \"1.0\";\n"
+                   "createNode xrVellMayaVRay -n \"b\" -p \"fur\";\n"
+                   "connectAttr \"furShape.od\" \"b.vid\";\n"
+                   "select -ne :time1;\n\tsetAttr \".o\" 1e16;\n",
          "xrvell-render: frames near 1e+16 cannot be told apart with a step (-b) of 1"},
         {"syntax", prelude + "\tsetAttr \".isp\" -type \"string\" \"/open;\n",
          "bad.ma:5: error: unterminated string"},
@@ -168,14 +172,14 @@ TEST_F(RenderCliTest, BadSceneExitsWithItsErrorAndWritesNothing) {
     };
     for (const BadScene& bad : cases) {
         SCOPED_TRACE(bad.name);
-        writeFile(directory / "bad.ma", bad.text);
+        writeFile(directory / "bad.ma", bad.text + "// End of bad.ma\n");
         writeFile(directory / "old.vrscene", "an earlier render\n");
         const ToolResult result = run({"-o", "old.vrscene", "bad.ma"}, directory.string(),
                                       {"MAYA_PLUG_IN_PATH=" + directory.string()});
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(result.out, "");
         EXPECT_EQ(withoutSummary(result.err, kNothingRendered),
-                  bad.error + "\nxrvell-render: stopped at the first error; nothing written\n");
+                  bad.error + "\nxrvell-render: 1 error; nothing written\n");
         EXPECT_EQ(contentsOf(directory / "old.vrscene"), "an earlier render\n");
         EXPECT_EQ(files(), (std::vector<std::string>{"bad.ma", "old.vrscene"}));
     }
@@ -195,8 +199,14 @@ TEST_F(RenderCliTest, PluginErrorsDuringTheRenderShowAsMayaPrintsThem) {
     EXPECT_EQ(result.out.find("xrVellVRay furBodyVRayShape {"), std::string::npos);
 }
 
+// The smallest scene that renders without a warning.
+const char* const kFedBridge =
+    "requires \"xrVellMaya\" \"1.0\";\nrequires \"xrVellVRayMaya\" \"1.0\";\n"
+    "createNode xrVellMaya -n \"fur\";\ncreateNode xrVellMayaVRay -n \"bridge\";\n"
+    "connectAttr \"fur.od\" \"bridge.vid\";\n";
+
 TEST_F(RenderCliTest, ReportsFilesItCannotReadOrWriteAndWritesNothing) {
-    writeFile(directory / "scene.ma", "createNode transform -n \"t\";\n");
+    writeFile(directory / "scene.ma", kFedBridge);
     fs::create_directories(directory / "adir.ma");
     ASSERT_EQ(mkfifo((directory / "fifo.ma").c_str(), 0600), 0);
     fs::create_symlink("scene.ma", directory / "link.ma");
@@ -226,7 +236,7 @@ TEST_F(RenderCliTest, ReportsFilesItCannotReadOrWriteAndWritesNothing) {
         EXPECT_EQ(withoutSummary(result.err, kNothingRendered),
                   std::string("xrvell-render: ") + c.error + "\n");
         EXPECT_EQ(files(), before);
-        EXPECT_EQ(contentsOf(directory / "scene.ma"), "createNode transform -n \"t\";\n");
+        EXPECT_EQ(contentsOf(directory / "scene.ma"), kFedBridge);
     }
 }
 

@@ -9,9 +9,37 @@ namespace xrvell {
 Diagnostics::Diagnostics(std::string fileName, std::FILE* output, int level)
     : file(std::move(fileName)), stream(output), verbosity(level) {}
 
-void Diagnostics::error(int line, const std::string& text) {
+// An error of a kind is held until the next error of another shows where its run ends.
+void Diagnostics::error(int line, const std::string& text, const std::string& kind) {
     ++errorCount;
-    report(file, line, "error", text, true);
+    const bool runs = !kind.empty() && verbosity < 2;
+    if (runs && heldError && heldError->kind == kind) {
+        ++heldError->more;
+        heldError->lastLine = line;
+        return;
+    }
+    showHeldError();
+    const Held error{kind, file, line, text, 0, line};
+    if (runs)
+        heldError = error;
+    else
+        showError(error);
+}
+
+void Diagnostics::showHeldError() {
+    if (heldError) showError(*heldError);
+    heldError.reset();
+}
+
+void Diagnostics::showError(const Held& error) {
+    if (errorLines == kShownErrors) return;
+    ++errorLines;
+    shownErrors += 1 + error.more;
+    std::string text = error.text;
+    if (error.more > 0)
+        text += " (and " + std::to_string(error.more) + " more like it, to line " +
+                std::to_string(error.lastLine) + "; -v 2 lists each)";
+    report(error.file, error.line, "error", text, true);
 }
 
 void Diagnostics::warning(int line, const std::string& text, const std::string& kind) {
@@ -24,7 +52,7 @@ void Diagnostics::warning(int line, const std::string& text, const std::string& 
             return;
         }
     }
-    held.push_back(Held{key, file, line, text, 0});
+    held.push_back(Held{key, file, line, text, 0, line});
 }
 
 void Diagnostics::note(int line, const std::string& text) {
@@ -32,6 +60,7 @@ void Diagnostics::note(int line, const std::string& text) {
 }
 
 void Diagnostics::flush() {
+    showHeldError();
     for (const Held& warning : held) {
         std::string text = warning.text;
         if (warning.more > 0)
@@ -44,8 +73,8 @@ void Diagnostics::flush() {
 // Scene text quoted in a message may hold any byte: each message stays one visible line.
 void Diagnostics::report(const std::string& fileName, int line, const char* kind,
                          const std::string& text, bool show) {
-    std::string formatted =
-        VisibleText::of(fileName + ":" + std::to_string(line) + ": " + kind + ": " + text);
+    const std::string where = line > 0 ? fileName + ":" + std::to_string(line) : fileName;
+    std::string formatted = VisibleText::of(where + ": " + kind + ": " + text);
     if (stream && show) {
         formatted += '\n';
         std::fwrite(formatted.data(), 1, formatted.size(), stream);

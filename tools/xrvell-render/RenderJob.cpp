@@ -16,6 +16,7 @@
 #include "PluginPath.h"
 #include "ProgressLine.h"
 #include "RenderDriver.h"
+#include "SceneChecks.h"
 #include "SceneFile.h"
 #include "SceneReader.h"
 #include "VisibleText.h"
@@ -70,7 +71,9 @@ int RenderJob::runSteps() {
     std::string text;
     if (!readScene(&text) || !outputIsNotTheScene()) return 1;
     if (!load(text) || !resolveFrames()) {
-        std::fprintf(log, "xrvell-render: stopped at the first error; nothing written\n");
+        std::string tally = counted(static_cast<size_t>(errors), "error", "errors");
+        if (hiddenErrors > 0) tally += ", " + std::to_string(hiddenErrors) + " of them not shown";
+        std::fprintf(log, "xrvell-render: %s; nothing written\n", tally.c_str());
         return 1;
     }
     std::string().swap(text);  // the host holds the scene now
@@ -85,6 +88,8 @@ bool RenderJob::readScene(std::string* text) {
     SceneFile file;
     std::string problem;
     if (!file.read(options.scene, &problem)) return fail(problem);
+    problem = SceneFile::notMayaAscii(options.scene, file.text);
+    if (!problem.empty()) return fail(problem);
     sceneDevice = file.device;
     sceneInode = file.inode;
     text->swap(file.text);
@@ -111,8 +116,13 @@ bool RenderJob::load(const std::string& sceneText) {
                        [this](const std::string& name) { return plugins->require(name); });
     if (!options.project.empty()) reader.setProject(options.project);
     const bool read = reader.read(sceneText);
+    if (read) {
+        SceneChecks(diagnostics).run();
+        diagnostics.flush();
+    }
     warnings += diagnostics.warnings();
     errors += diagnostics.errors();
+    hiddenErrors = diagnostics.hiddenErrors();
     if (read && options.verbosity >= 2) printDetails();
     return read;
 }

@@ -56,6 +56,7 @@ private:
     size_t framesDone = 0;
     int warnings = 0;
     int errors = 0;
+    int hiddenErrors = 0;        // beyond those the scene's reading shows
     bool outputStarted = false;  // text has reached a target written in place
     unsigned long long sceneDevice = 0, sceneInode = 0;
 };

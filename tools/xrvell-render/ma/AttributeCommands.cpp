@@ -78,8 +78,7 @@ AttributeCommands::AttributeCommands(ReadContext& shared) : context(shared) {}
 // ".attr" is an attribute of the selected node; "node.attr" names its node.
 bool AttributeCommands::target(const std::string& text, MObject* node, PlugText* plug) {
     if (!text.empty() && text[0] == '.') {
-        if (context.selected().isNull())
-            return context.fail("setAttr " + quoted(text) + ": no node is selected");
+        if (context.selected().isNull()) return context.failUnselected("setAttr " + quoted(text));
         *node = context.selected();
         *plug = PlugText{context.selectedName(), text.substr(1)};
         return true;
@@ -190,7 +189,7 @@ bool AttributeCommands::addAttr(const MaStatement& statement) {
     MObject node = context.selected();
     if (!plain.empty() && !context.findNode(plain.back()->text, "addAttr: no node ", &node))
         return false;
-    if (node.isNull()) return context.fail("addAttr: no node is selected");
+    if (node.isNull()) return context.failUnselected("addAttr");
     mayahost::addKeptAttribute(node, longName, shortName);
     return true;
 }

@@ -3,6 +3,7 @@
 #include <maya/MTime.h>
 
 #include "MaArguments.h"
+#include "TruncationCheck.h"
 
 namespace xrvell {
 namespace {
@@ -87,6 +88,23 @@ bool isRelativePlug(const MaStatement& statement) {
     return false;
 }
 
+// The node a createNode or select names ("-n" for createNode, the last plain word for select),
+// for the messages of the lines that were meant for it; empty for other commands.
+std::string failedTarget(const MaStatement& statement) {
+    const std::vector<MaWord>& words = statement.words;
+    const std::string& command = words[0].text;
+    if (command != "createNode" && command != "select") return "";
+    std::string name;
+    for (size_t i = 1; i < words.size(); ++i) {
+        const bool flag = !words[i].quoted && words[i].text[0] == '-';
+        const bool nameFlag = flag && (words[i].text == "-n" || words[i].text == "-name");
+        if (command == "createNode" && nameFlag && i + 1 < words.size()) name = words[++i].text;
+        if (command == "select" && !flag) name = words[i].text;
+    }
+    const std::string of = name.empty() ? "" : " of " + quoted(name);
+    return "the " + command + of + " at line " + std::to_string(statement.line) + " failed";
+}
+
 }  // namespace
 
 void FileReader::refuseProductTypes(NodeTypeRules& rules) {
@@ -108,19 +126,26 @@ FileReader::FileReader(SceneState& state, const std::string& file, const std::st
               return FileReader(scene, path, space).read(text);
           }) {}
 
+// Each failing command is reported and the reading goes on, as in Maya, so one run shows every
+// error; a syntax error ends it, since what follows cannot be told apart.
 bool FileReader::read(std::string_view text) {
     MaTokenizer tokenizer(text);
     MaStatement statement;
     bool ok = true;
-    while (ok && tokenizer.next(statement)) {
+    while (tokenizer.next(statement)) {
         context.line = statement.line;
-        ok = apply(statement);
+        if (apply(statement)) continue;
+        ok = false;
+        const std::string target = failedTarget(statement);
+        if (!target.empty()) context.unselect(target);
     }
-    if (ok && !tokenizer.error().empty()) {
+    if (!tokenizer.error().empty()) {
         context.line = tokenizer.errorLine();
         ok = context.fail(tokenizer.error());
     }
-    return ok && references.finish();
+    const std::string truncated = TruncationCheck::problem(text, &context.line);
+    if (!truncated.empty()) context.warn(truncated);
+    return references.finish() && ok;
 }
 
 bool FileReader::apply(const MaStatement& statement) {

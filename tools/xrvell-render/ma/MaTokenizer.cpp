@@ -7,6 +7,8 @@ bool isSpace(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v';
 }
 
+bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
+
 char unescaped(char c) {
     switch (c) {
         case 'n':
@@ -29,9 +31,10 @@ MaTokenizer::MaTokenizer(std::string_view input) : text(input) {
     if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) position = kByteOrderMark.size();
 }
 
+// A line ends with LF, CR LF or, in files from old Mac systems, a lone CR.
 void MaTokenizer::advance() {
-    if (text[position] == '\n') ++line;
-    ++position;
+    const char c = text[position++];
+    if (c == '\n' || (c == '\r' && (atEnd() || peek() != '\n'))) ++line;
 }
 
 void MaTokenizer::skipSpaceAndComments() {
@@ -39,7 +42,7 @@ void MaTokenizer::skipSpaceAndComments() {
         if (isSpace(peek())) {
             advance();
         } else if (peek() == '/' && position + 1 < text.size() && text[position + 1] == '/') {
-            while (!atEnd() && peek() != '\n') advance();
+            while (!atEnd() && !isLineEnd(peek())) advance();
         } else {
             return;
         }
@@ -57,7 +60,7 @@ bool MaTokenizer::readQuoted(std::string& word) {
     const int start = line;
     advance();  // the opening quote
     while (!atEnd() && peek() != '"') {
-        if (peek() == '\n') return fail(start, "unterminated string");
+        if (isLineEnd(peek())) return fail(start, "unterminated string");
         if (peek() == '\\') {
             advance();
             if (atEnd()) break;

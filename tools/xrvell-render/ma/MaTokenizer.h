@@ -18,8 +18,8 @@ struct MaStatement {
 };
 
 // Splits Maya ASCII text into statements: words separated by white space, double-quoted strings
-// with backslash escapes, "//" comments to the end of the line, ';' ending each command. A
-// leading UTF-8 byte order mark is skipped.
+// with backslash escapes, "//" comments to the end of the line, ';' ending each command. Lines
+// end with LF, CR LF or CR alike. A leading UTF-8 byte order mark is skipped.
 class MaTokenizer {
 public:
     explicit MaTokenizer(std::string_view text);

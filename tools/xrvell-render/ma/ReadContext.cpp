@@ -81,6 +81,18 @@ bool ReadContext::splitPlug(const std::string& text, PlugText* plug) {
 void ReadContext::select(const MObject& node, const std::string& name) {
     selectedNode = node;
     selectedText = name;
+    unselectedBy.clear();
+}
+
+void ReadContext::unselect(const std::string& why) {
+    select(MObject(), "");
+    unselectedBy = why;
+}
+
+bool ReadContext::failUnselected(const std::string& what) {
+    const std::string why = unselectedBy.empty() ? "" : " (" + unselectedBy + ")";
+    diagnostics.error(line, what + ": no node is selected" + why, unselectedBy);
+    return false;
 }
 
 }  // namespace xrvell

@@ -50,6 +50,12 @@ public:
     void select(const MObject& node, const std::string& name);
     const MObject& selected() const { return selectedNode; }
     const std::string& selectedName() const { return selectedText; }
+    // After a createNode or select that failed, nothing is selected: the lines that follow were
+    // meant for the node it failed to make or find, not the one before. `why` names the command.
+    void unselect(const std::string& why);
+    // Reports that `what` ("setAttr ".rd"") has no node selected, and why when a failed command
+    // left none: the lines meant for one failed node are one error line with a count.
+    bool failUnselected(const std::string& what);
 
     void created(const MObject& node) { createdNodes.push_back(node); }
 
@@ -59,6 +65,7 @@ private:
     Diagnostics& diagnostics;
     MObject selectedNode;
     std::string selectedText;  // as the scene named it
+    std::string unselectedBy;
     std::vector<MObject>& createdNodes;
     std::string fileName;
     std::string space;

@@ -130,7 +130,7 @@ bool ReferenceCommands::load(Reference& reference) {
     const std::string what = "reference " + quoted(reference.node) + ": ";
     if (reference.type == "mayaBinary") {
         context.warn(what + quoted(reference.written) +
-                         " is a binary Maya file; only Maya ASCII files are read" + kMissing,
+                         " is a binary Maya file: only Maya ASCII is read" + kMissing,
                      "missing reference");
         return true;
     }
@@ -161,10 +161,9 @@ bool ReferenceCommands::readable(const Reference& reference, std::string* path, 
         context.warn(what + problem + kMissing, "missing reference");
         return false;
     }
-    if (file.text.compare(0, 4, "FOR4") == 0 || file.text.compare(0, 4, "FOR8") == 0) {
-        context.warn(what + quoted(*path) +
-                         " is a binary Maya file; only Maya ASCII files are read" + kMissing,
-                     "missing reference");
+    const std::string notAscii = SceneFile::notMayaAscii(*path, file.text);
+    if (!notAscii.empty()) {
+        context.warn(what + notAscii + kMissing, "missing reference");
         return false;
     }
     text->swap(file.text);

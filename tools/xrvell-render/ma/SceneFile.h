@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <string_view>
 
 namespace xrvell {
 
@@ -13,6 +14,12 @@ struct SceneFile {
     // Only a regular file is read: a directory reads as nothing, a FIFO or device as whatever
     // happens to come.
     bool read(const std::string& path, std::string* problem);
+
+    // Why the file at `path`, which holds `text`, cannot be read as Maya ASCII when its first
+    // bytes show it is something else (a binary Maya file, a gzip file, UTF-16 text): one
+    // sentence naming the file. Empty for anything else. The caller decides whether it is an
+    // error or a warning.
+    static std::string notMayaAscii(const std::string& path, std::string_view text);
 };
 
 }  // namespace xrvell

@@ -12,8 +12,9 @@ namespace xrvell {
 
 // Builds the stand-in host's scene from a Maya ASCII file as Maya does when it opens one, with
 // the files it references. Each file is read by a FileReader, in layers: MaTokenizer splits the
-// text into statements, and the commands they belong with apply them to the host. The first
-// error stops the reading; what Maya carries on after gives a warning instead. Everything Maya
+// text into statements, and the commands they belong with apply them to the host. Each error is
+// reported and the reading goes on, as in Maya; what Maya carries on after without an error gives
+// a warning. Everything Maya
 // writes that the host does not model is kept the way Maya keeps what it does not know (unknown
 // nodes, attributes kept as written), never an error.
 class SceneReader {
@@ -27,7 +28,7 @@ public:
     // scene holding workspace.mel.
     void setProject(const std::string& root);
 
-    // False when the scene has an error; the scene then holds what came before it.
+    // False when the scene has an error; the scene then holds everything but the failed commands.
     bool read(std::string_view text);
     // The nodes the files created, in creation order.
     const std::vector<MObject>& createdNodes() const { return scene.created; }

@@ -1,0 +1,2 @@
+//Maya ASCII 2022 scene//Name: cr.marequires "xrVellMaya" "1.0";requires "xrVellVRayMaya" "1.0";createNode xrVellMaya -n "f";	setAttr ".rd" 2;
+createNode xrVellMayaVRay -n "b";connectAttr "f.od" "b.vid";// End of cr.ma
