@@ -152,6 +152,30 @@ TEST_P(RealScene, RendersAnAddedFurAsItRendersAlone) {
     EXPECT_EQ(blocks[1], blocks[0]);
 }
 
+// The real scene, with the fur added, as the asset of a shot that references it and makes the
+// coat denser: the referenced nodes keep their places under the namespace, and the edit lands.
+TEST_P(RealScene, IsReadAsTheReferenceOfAShot) {
+    writeFile(directory / "asset.ma", withFur(contentsOf(scene)));
+    const std::string flags =
+        "-ns \"set\" -rfn \"setRN\" -op \"v=0;\" -typ \"mayaAscii\" \"asset.ma\"";
+    writeFile(directory / "shot.ma",
+              std::string("//Maya ASCII 2022 scene\n//Name: shot.ma\nfile -rdi 1 ") + flags +
+                  ";\nfile -r -dr 1 " + flags + ";\n" + kRequires +
+                  "createNode reference -n \"setRN\";\n\tsetAttr \".ed\" -type "
+                  "\"dataReferenceEdits\" \"setRN\" \"setRN\" 0 \"setRN\" 1 2 "
+                  "\"|set:xrTestFur|set:xrTestFurShape\" \"renderDensity\" \" 5\";\n"
+                  "// End of shot.ma\n");
+    const fs::path output = directory / "out.vrscene";
+    const ToolResult result =
+        render({"-s", "1", "-o", output.string(), (directory / "shot.ma").string()});
+    ASSERT_EQ(result.status, 0) << result.err;
+    const std::string blocks = blocksOf(contentsOf(output));
+    const size_t block = blocks.find("xrVellVRay set:xrTestFurVRayShape {");
+    ASSERT_NE(block, std::string::npos) << blocks;
+    EXPECT_EQ(blocks.find("xrVellVRay ", block + 1), std::string::npos) << blocks;
+    EXPECT_NE(blocks.find("  density=5;", block), std::string::npos) << blocks;
+}
+
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealScene);
 INSTANTIATE_TEST_SUITE_P(RealScenes, RealScene, ::testing::ValuesIn(realScenes()),
                          [](const ::testing::TestParamInfo<std::string>& info) {
