@@ -1,7 +1,7 @@
 #include "VrsceneValue.h"
 
-#include <cstdio>
-#include <cstdlib>
+#include <charconv>
+#include <cstring>
 
 #include "VisibleText.h"
 
@@ -12,8 +12,23 @@ using vrayrender::RecordedValue;
 
 void appendInt(int value, std::string& out) {
     char text[16];
-    std::snprintf(text, sizeof text, "%d", value);
-    out += text;
+    out.append(text, std::to_chars(text, text + sizeof text, value).ptr);
+}
+
+// The fewest digits that read back to the same value, as to_chars gives them. It writes a number
+// in exponent form whenever that is shorter, 100000 as 1e+05; below 10^fixedDigits the number is
+// written out as a person would type it, as %g does.
+template <typename Number>
+void appendShortest(Number value, int fixedDigits, std::string& out) {
+    char text[64];
+    char* end = std::to_chars(text, text + sizeof text, value).ptr;
+    const char* e =
+        static_cast<const char*>(std::memchr(text, 'e', static_cast<size_t>(end - text)));
+    int power = 0;
+    if (e && std::from_chars(e[1] == '+' ? e + 2 : e + 1, end, power).ec == std::errc() &&
+        power >= -4 && power < fixedDigits)
+        end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed).ptr;
+    out.append(text, end);
 }
 
 void appendTriple(const char* name, const float (&v)[3], std::string& out) {
@@ -37,20 +52,9 @@ void appendList(const std::vector<float>& list, std::string& out) {
 
 }  // namespace
 
-void VrsceneValue::appendFloat(float value, std::string& out) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.9g", static_cast<double>(value));
-    out += text;
-}
+void VrsceneValue::appendFloat(float value, std::string& out) { appendShortest(value, 9, out); }
 
-void VrsceneValue::appendDouble(double value, std::string& out) {
-    char text[32];
-    for (int digits = 15; digits <= 17; ++digits) {
-        std::snprintf(text, sizeof text, "%.*g", digits, value);
-        if (std::strtod(text, nullptr) == value) break;
-    }
-    out += text;
-}
+void VrsceneValue::appendDouble(double value, std::string& out) { appendShortest(value, 15, out); }
 
 void VrsceneValue::appendString(const std::string& text, std::string& out) {
     out += '"';
