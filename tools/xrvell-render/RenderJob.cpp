@@ -144,7 +144,9 @@ bool RenderJob::render(OutputFile& output) {
     }
     progress.finish();
     countHostMessages();
-    return stream.flush() || writeFailed(stream.failure());
+    if (stream.flush()) return true;
+    readerGone = output.readerGone();
+    return writeFailed(stream.failure());
 }
 
 void RenderJob::frameDone(const vrayrender::RecordedFrame& frame) {
@@ -164,8 +166,12 @@ void RenderJob::countHostMessages() {
 }
 
 bool RenderJob::writeFailed(const std::string& reason) {
-    return fail("cannot write \"" + options.output + "\": " + reason +
-                (outputStarted ? "; the output is incomplete" : ""));
+    const std::string target =
+        options.output == "-" ? "to standard output" : "\"" + options.output + "\"";
+    // A reader that stopped reading, as head does, has all it wanted.
+    const bool incomplete = outputStarted && !readerGone;
+    return fail("cannot write " + target + ": " + reason +
+                (incomplete ? "; the output is incomplete" : ""));
 }
 
 void RenderJob::printDetails() const {

@@ -57,6 +57,7 @@ private:
     int warnings = 0;
     int errors = 0;
     bool outputStarted = false;  // text has reached a target written in place
+    bool readerGone = false;     // the reader of the output closed its end
     unsigned long long sceneDevice = 0, sceneInode = 0;
 };
 
