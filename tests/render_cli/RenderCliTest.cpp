@@ -158,20 +158,6 @@ TEST_F(RenderCliTest, BadSceneExitsWithItsErrorAndWritesNothing) {
     }
 }
 
-TEST_F(RenderCliTest, PluginErrorsDuringTheRenderShowAsMayaPrintsThem) {
-    const ToolResult result =
-        run({"-vrayPluginPath", directory.string(), "-o", "-", "examples/demo.ma"});
-    EXPECT_EQ(result.status, 1);
-    const std::string error =
-        "// Error: xrVellMayaVRay::xrVellVRay plugin doesn't exsist, please check your VRAY plugin "
-        "paths.\n";
-    EXPECT_EQ(
-        withoutSummary(result.err, "1 frame, 2 nodes, 0 plugin instances, 0 warnings, 2 errors"),
-        kDemoWarnings + error + error);
-    EXPECT_NE(result.out.find("// Frame 1: geometry samples at 1\n"), std::string::npos);
-    EXPECT_EQ(result.out.find("xrVellVRay furBodyVRayShape {"), std::string::npos);
-}
-
 TEST_F(RenderCliTest, ReportsFilesItCannotReadOrWriteAndWritesNothing) {
     writeFile(directory / "scene.ma", "createNode transform -n \"t\";\n");
     fs::create_directories(directory / "adir.ma");

@@ -73,4 +73,51 @@ TEST_F(RenderOutputTest, AClosedPipeIsReportedWithTheSummary) {
         "xrvell-render: cannot write to standard output: Broken pipe\n");
 }
 
+// The bridge's message comes once per bridge and frame; shown once with a count, and with the
+// directories searched. An output of comments alone would pass for a render: none is left,
+// whether a file (an earlier one stays) or standard output (enough frames to fill the pieces
+// the output is written in).
+TEST_F(RenderOutputTest, WithoutTheRendererPluginTheBridgesErrorIsToldOnceAndNothingIsWritten) {
+    writeFile(directory / "old.vrscene", "an earlier render\n");
+    const struct {
+        const char* output;
+        const char* lastFrame;
+        const char* summary;
+        int more;
+    } cases[] = {
+        {"old.vrscene", "3", "3 frames, 2 nodes, 0 plugin instances, 0 warnings, 7 errors", 5},
+        {"-", "5000", "5000 frames, 2 nodes, 0 plugin instances, 0 warnings, 10001 errors", 9999},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.output);
+        const std::string output = c.output[0] == '-' ? "-" : (directory / c.output).string();
+        const ToolResult result =
+            run({"-vrayPluginPath", noRenderer(), "-s", "1", "-e", c.lastFrame, "-mb", "on",
+                 "-mbSamples", "20", "-o", output, "examples/demo.ma"});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(withoutSummary(result.err, c.summary),
+                  std::string(kMissingRenderer) + " (and " + std::to_string(c.more) +
+                      " more like it; -v 2 lists each)\n"
+                      "xrvell-render: renderer plugin \"xrVellVRay\" not found; searched " +
+                      noRenderer() + "; nothing written\n");
+        EXPECT_EQ(contentsOf(directory / "old.vrscene"), "an earlier render\n");
+        EXPECT_EQ(files(), (std::vector<std::string>{"no-renderer", "old.vrscene"}));
+    }
+}
+
+TEST_F(RenderOutputTest, WithoutTheRendererPluginVerbosityTwoListsEachMessage) {
+    const ToolResult result = run({"-vrayPluginPath", noRenderer(), "-s", "1", "-e", "3", "-v", "2",
+                                   "-o", "-", "examples/demo.ma"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    size_t shown = 0;
+    for (size_t at = 0;
+         (at = result.err.find(std::string(kMissingRenderer) + "\n", at)) != std::string::npos;
+         ++at)
+        ++shown;
+    EXPECT_EQ(shown, 6u) << result.err;
+    EXPECT_EQ(result.err.find("more like it"), std::string::npos);
+}
+
 }  // namespace

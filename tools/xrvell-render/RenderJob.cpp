@@ -12,6 +12,7 @@
 
 #include "CommandLine.h"
 #include "Diagnostics.h"
+#include "MessageGroups.h"
 #include "OutputFile.h"
 #include "PluginPath.h"
 #include "ProgressLine.h"
@@ -137,16 +138,32 @@ bool RenderJob::render(OutputFile& output) {
             progress.update(framesDone, total);
         },
         outputStarted);
+    // Without the renderer plugin the bridges make no block, and a file of comments alone would
+    // pass for a render: the text waits until the render shows whether there were bridges.
+    const bool rendererMissing = !registry.getPluginDesc(VrsceneWriter::kPluginType);
+    if (rendererMissing) stream.hold();
     stream.start();
     {
+        MessageGroups hostLines(log, options.verbosity);
         vrayrender::RenderDriver driver(&registry);
         rendered = driver.render(options.settings, &stream);
+        progress.finish();
+        hostLines.flush();
     }
-    progress.finish();
     countHostMessages();
+    if (rendererMissing && rendered.geometrySources > 0) return rendererNotFound();
     if (stream.flush()) return true;
     readerGone = output.readerGone();
     return writeFailed(stream.failure());
+}
+
+bool RenderJob::rendererNotFound() {
+    std::string searched;
+    for (const std::string& directory : options.rendererPluginPath)
+        searched += (searched.empty() ? "searched " : ", ") + directory;
+    if (searched.empty()) searched = "the renderer plugin path is empty";
+    return fail(std::string("renderer plugin \"") + VrsceneWriter::kPluginType + "\" not found; " +
+                searched + "; nothing written");
 }
 
 void RenderJob::frameDone(const vrayrender::RecordedFrame& frame) {

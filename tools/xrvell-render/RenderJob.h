@@ -41,6 +41,7 @@ private:
     bool outputIsNotTheScene();
     bool resolveFrames();
     bool writeFailed(const std::string& reason);
+    bool rendererNotFound();
     void countHostMessages();
     void printDetails() const;
     void printSummary() const;

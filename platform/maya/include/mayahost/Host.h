@@ -8,6 +8,7 @@
 #include <maya/MStatus.h>
 #include <maya/MTime.h>
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -230,6 +231,11 @@ struct Message {
 };
 std::vector<Message> messages();
 void clearMessages();
+// Each message is printed as Maya's batch mode prints it ("// Error: ..."), on standard error
+// unless a host user takes the lines, to group repeats say. An empty function gives them back.
+// Kept through reset().
+using MessageEcho = std::function<void(const std::string& line)>;
+void setMessageEcho(MessageEcho echo);
 // The host's own diagnostics (why a registration or connection was refused).
 std::vector<std::string> diagnostics();
 
