@@ -13,8 +13,14 @@ namespace detail {
 
 // Reference counted by the MObject handles that point at it; the host keeps its own reference
 // for as long as the object is part of the scene or a registry.
+struct NodeObj;
+struct AttributeObj;
+
 struct Object {
     virtual ~Object() = default;
+    // What the object is, told without a dynamic_cast: every plug access resolves its handles.
+    virtual NodeObj* asNode() { return nullptr; }
+    virtual AttributeObj* asAttribute() { return nullptr; }
     int references = 0;
 };
 
