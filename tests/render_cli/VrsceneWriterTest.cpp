@@ -82,6 +82,8 @@ TEST(VrsceneValueTest, WritesEachKindSoItReadsBack) {
         {real(16777217.0f), "16777216"},
         // Whole numbers and small fractions are written out as %g would, not as 1e+05.
         {real(100000.0f), "100000"},
+        {real(-7.0f), "-7"},
+        {real(999999936.0f), "999999936"},
         {real(12000000.0f), "12000000"},
         {real(0.0001f), "0.0001"},
         {real(1e-5f), "1e-05"},
@@ -94,6 +96,8 @@ TEST(VrsceneValueTest, WritesEachKindSoItReadsBack) {
         {dbl(123456789012.0), "123456789012"},
         {dbl(9007199254740992.0), "9007199254740992"},
         {dbl(1e15), "1e+15"},
+        {dbl(-0.0), "-0"},
+        {dbl(-4503599627370497.0), "-4503599627370497"},
         {dbl(-1e-300), "-1e-300"},
         {triple(Kind::Vector, 1.0f, -2.5f, 0.1f), "Vector(1,-2.5,0.1)"},
         {triple(Kind::Color, 0.0f, 0.5f, 1.0f), "Color(0,0.5,1)"},

@@ -1,6 +1,7 @@
 #include "VrsceneValue.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstring>
 
 #include "VisibleText.h"
@@ -15,19 +16,39 @@ void appendInt(int value, std::string& out) {
     out.append(text, std::to_chars(text, text + sizeof text, value).ptr);
 }
 
-// The fewest digits that read back to the same value, as to_chars gives them. It writes a number
-// in exponent form whenever that is shorter, 100000 as 1e+05; below 10^fixedDigits the number is
-// written out as a person would type it, as %g does.
+// Below 10^digits a number is written out in full, as %g would: 100000, not to_chars' 1e+05.
+struct Notation {
+    int digits;
+    double below;  // 10^digits
+};
+const Notation kFloatNotation{9, 1e9};
+const Notation kDoubleNotation{15, 1e15};
+
+// The fewest digits that read back to the same value, as to_chars gives them, in exponent form
+// only where %g would use it.
 template <typename Number>
-void appendShortest(Number value, int fixedDigits, std::string& out) {
-    char text[64];
-    char* end = std::to_chars(text, text + sizeof text, value).ptr;
+char* shortest(Number value, const Notation& notation, char* text, char* last) {
+    char* end = std::to_chars(text, last, value).ptr;
     const char* e =
         static_cast<const char*>(std::memchr(text, 'e', static_cast<size_t>(end - text)));
     int power = 0;
     if (e && std::from_chars(e[1] == '+' ? e + 2 : e + 1, end, power).ec == std::errc() &&
-        power >= -4 && power < fixedDigits)
-        end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed).ptr;
+        power >= -4 && power < notation.digits)
+        end = std::to_chars(text, last, value, std::chars_format::fixed).ptr;
+    return end;
+}
+
+template <typename Number>
+void appendNumber(Number value, const Notation& notation, std::string& out) {
+    char text[64];
+    char* end;
+    // Whole numbers, most of a scene's values, are their own digits: no search for the shortest.
+    // -0 keeps its sign through to_chars.
+    if (std::fabs(value) < notation.below && value == std::trunc(value) &&
+        (value != 0 || !std::signbit(value)))
+        end = std::to_chars(text, text + sizeof text, static_cast<long long>(value)).ptr;
+    else
+        end = shortest(value, notation, text, text + sizeof text);
     out.append(text, end);
 }
 
@@ -52,9 +73,13 @@ void appendList(const std::vector<float>& list, std::string& out) {
 
 }  // namespace
 
-void VrsceneValue::appendFloat(float value, std::string& out) { appendShortest(value, 9, out); }
+void VrsceneValue::appendFloat(float value, std::string& out) {
+    appendNumber(value, kFloatNotation, out);
+}
 
-void VrsceneValue::appendDouble(double value, std::string& out) { appendShortest(value, 15, out); }
+void VrsceneValue::appendDouble(double value, std::string& out) {
+    appendNumber(value, kDoubleNotation, out);
+}
 
 void VrsceneValue::appendString(const std::string& text, std::string& out) {
     out += '"';
