@@ -80,27 +80,34 @@ TEST_F(RenderOutputTest, AClosedPipeIsReportedWithTheSummary) {
 TEST_F(RenderOutputTest, WithoutTheRendererPluginTheBridgesErrorIsToldOnceAndNothingIsWritten) {
     writeFile(directory / "old.vrscene", "an earlier render\n");
     const struct {
-        const char* output;
+        std::string path;
+        std::string output;
         const char* lastFrame;
         const char* summary;
         int more;
+        std::string searched;
     } cases[] = {
-        {"old.vrscene", "3", "3 frames, 2 nodes, 0 plugin instances, 0 warnings, 7 errors", 5},
-        {"-", "5000", "5000 frames, 2 nodes, 0 plugin instances, 0 warnings, 10001 errors", 9999},
+        {noRenderer(), (directory / "old.vrscene").string(), "3",
+         "3 frames, 2 nodes, 0 plugin instances, 0 warnings, 7 errors", 5,
+         "searched " + noRenderer()},
+        {noRenderer() + ":" + noRenderer(), "-", "5000",
+         "5000 frames, 2 nodes, 0 plugin instances, 0 warnings, 10001 errors", 9999,
+         "searched " + noRenderer() + ", " + noRenderer()},
+        {":", "-", "1", "1 frame, 2 nodes, 0 plugin instances, 0 warnings, 3 errors", 1,
+         "the renderer plugin path is empty"},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.output);
-        const std::string output = c.output[0] == '-' ? "-" : (directory / c.output).string();
+        SCOPED_TRACE(c.path + " " + c.output);
         const ToolResult result =
-            run({"-vrayPluginPath", noRenderer(), "-s", "1", "-e", c.lastFrame, "-mb", "on",
-                 "-mbSamples", "20", "-o", output, "examples/demo.ma"});
+            run({"-vrayPluginPath", c.path, "-s", "1", "-e", c.lastFrame, "-mb", "on", "-mbSamples",
+                 "20", "-o", c.output, "examples/demo.ma"});
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(result.out, "");
         EXPECT_EQ(withoutSummary(result.err, c.summary),
                   std::string(kMissingRenderer) + " (and " + std::to_string(c.more) +
                       " more like it; -v 2 lists each)\n"
-                      "xrvell-render: renderer plugin \"xrVellVRay\" not found; searched " +
-                      noRenderer() + "; nothing written\n");
+                      "xrvell-render: renderer plugin \"xrVellVRay\" not found; " +
+                      c.searched + "; nothing written\n");
         EXPECT_EQ(contentsOf(directory / "old.vrscene"), "an earlier render\n");
         EXPECT_EQ(files(), (std::vector<std::string>{"no-renderer", "old.vrscene"}));
     }

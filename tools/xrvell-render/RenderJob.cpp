@@ -143,18 +143,23 @@ bool RenderJob::render(OutputFile& output) {
     const bool rendererMissing = !registry.getPluginDesc(VrsceneWriter::kPluginType);
     if (rendererMissing) stream.hold();
     stream.start();
-    {
-        MessageGroups hostLines(log, options.verbosity);
-        vrayrender::RenderDriver driver(&registry);
-        rendered = driver.render(options.settings, &stream);
-        progress.finish();
-        hostLines.flush();
-    }
-    countHostMessages();
+    drive(stream, progress);
     if (rendererMissing && rendered.geometrySources > 0) return rendererNotFound();
     if (stream.flush()) return true;
     readerGone = output.readerGone();
     return writeFailed(stream.failure());
+}
+
+// The messages the plug-ins show come after the progress line, each once with its repeats.
+void RenderJob::drive(VrsceneStream& stream, ProgressLine& progress) {
+    MessageGroups hostLines(log, options.verbosity);
+    {
+        vrayrender::RenderDriver driver(&registry);
+        rendered = driver.render(options.settings, &stream);
+    }
+    progress.finish();
+    hostLines.flush();
+    countHostMessages();
 }
 
 bool RenderJob::rendererNotFound() {

@@ -12,6 +12,8 @@ namespace xrvell {
 
 class OutputFile;
 class PluginPath;
+class ProgressLine;
+class VrsceneStream;
 
 // One run of xrvell-render: loads the plug-ins into the stand-in host, reads the scene,
 // renders the frames through the renderer stand-in and writes the .vrscene. Leaves the host
@@ -41,6 +43,7 @@ private:
     bool outputIsNotTheScene();
     bool resolveFrames();
     bool writeFailed(const std::string& reason);
+    void drive(VrsceneStream& stream, ProgressLine& progress);
     bool rendererNotFound();
     void countHostMessages();
     void printDetails() const;
