@@ -26,13 +26,24 @@ struct Object {
 
 struct DrawDataObj;
 
-void retain(Object* object);
-void release(Object* object);
+// Inline: every copy and end of a handle or plug goes through these.
+inline void retain(Object* object) {
+    if (object) ++object->references;
+}
+
+inline void release(Object* object) {
+    if (object && --object->references == 0) delete object;
+}
 
 // Reaches the private parts of API classes that hold host objects.
 struct Access {
     static Object* object(const MObject& handle) { return handle.fObj; }
-    static MObject handle(Object* object);
+    static MObject handle(Object* object) {
+        MObject result;
+        result.fObj = object;
+        retain(object);
+        return result;
+    }
 
     static MDataBlock dataBlock(Object& node) {
         MDataBlock block;
