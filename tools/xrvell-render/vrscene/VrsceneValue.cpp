@@ -81,16 +81,24 @@ void VrsceneValue::appendDouble(double value, std::string& out) {
     appendNumber(value, kDoubleNotation, out);
 }
 
+// The characters between escapes go out a run at a time: a render writes millions of paths.
 void VrsceneValue::appendString(const std::string& text, std::string& out) {
     out += '"';
-    for (char c : text) {
-        if (VisibleText::isControl(c)) {
+    size_t run = 0;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        const bool control = VisibleText::isControl(c);
+        if (!control && c != '"' && c != '\\') continue;
+        out.append(text, run, i - run);
+        run = i + 1;
+        if (control) {
             VisibleText::appendEscape(c, out);
-            continue;
+        } else {
+            out += '\\';
+            out += c;
         }
-        if (c == '"' || c == '\\') out += '\\';
-        out += c;
     }
+    out.append(text, run, std::string::npos);
     out += '"';
 }
 
