@@ -11,17 +11,18 @@ xrvell_missing_packages() {
     echo "${missing[@]}"
 }
 
-# Installs what is missing when run as root; otherwise says exactly what to run.
+# Installs what is missing when run as root, in view; otherwise says exactly what to run as root,
+# which need not be through sudo.
 xrvell_ensure_packages() {
     local missing
     missing=$(xrvell_missing_packages)
     [ -z "$missing" ] && return 0
     if [ "$(id -u)" = 0 ]; then
         echo "Installing Debian packages: $missing" >&2
-        apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $missing >&2
+        apt-get update >&2 && DEBIAN_FRONTEND=noninteractive apt-get install -y $missing >&2
     else
-        echo "Missing Debian packages. Run:" >&2
-        echo "  sudo apt-get install -y $missing" >&2
+        echo "Missing Debian packages. Run as root:" >&2
+        echo "  apt-get install -y $missing" >&2
         exit 1
     fi
 }

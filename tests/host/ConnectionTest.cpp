@@ -1,6 +1,4 @@
 // Connections, the plug queries that see them, dynamic attributes and data type registrations.
-#include <algorithm>
-
 #include <maya/MFnDependencyNode.h>
 #include <maya/MFnTypedAttribute.h>
 #include <maya/MPlugArray.h>
@@ -146,31 +144,4 @@ TEST_F(Connections, DataTypeIdsAndNamesAreUniqueAndShareIdsWithNodeTypes) {
     }
     mayahost::reset();
     EXPECT_TRUE(mayahost::loadPlugin(DATA_SAME_ID_PATH));
-}
-
-// What a renderer walking a large scene asks for ahead of use: the node and the nodes feeding
-// it, found without evaluating anything; nothing for a null or deleted node.
-TEST_F(Connections, NodeMemoryCoversTheFeedingNodesAndCallsNothing) {
-    const MObject fur = createFur("fur");
-    const MObject bridge = createBridge("bridge");
-    const MObject alone = createBridge("alone");
-    connectFur(fur, bridge);
-    const MObject gone = createBridge("gone");
-    ASSERT_EQ(mayahost::deleteNode(gone), MStatus::kSuccess);
-    furCalls().clear();
-
-    const std::vector<mayahost::MemoryBlock> fed = mayahost::nodeMemory(bridge);
-    const std::vector<mayahost::MemoryBlock> unfed = mayahost::nodeMemory(alone);
-
-    EXPECT_TRUE(furCalls().empty());
-    ASSERT_FALSE(unfed.empty());
-    EXPECT_GT(fed.size(), unfed.size());
-    const auto covers = [&fed](const mayahost::MemoryBlock& block) {
-        return std::any_of(fed.begin(), fed.end(), [&block](const mayahost::MemoryBlock& b) {
-            return b.start == block.start && b.bytes == block.bytes;
-        });
-    };
-    for (const mayahost::MemoryBlock& block : mayahost::nodeMemory(fur)) EXPECT_TRUE(covers(block));
-    EXPECT_TRUE(mayahost::nodeMemory(MObject()).empty());
-    EXPECT_TRUE(mayahost::nodeMemory(gone).empty());
 }

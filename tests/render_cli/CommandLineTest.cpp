@@ -59,16 +59,16 @@ TEST(CommandLineTest, RefusesBadOptionsWithTheReason) {
          "frames near 4503599627370496 cannot be told apart with a step (-b) of 0.5"},
         {{"-s", "0", "-e", "1e30", "-b", "1e-30", "a.ma"}, "too many frames: at most 100000"},
         {{"-s", "-1e308", "-e", "1e308", "a.ma"},
-         "frame -1e+308 is outside the renderer's time range (-3.40282347e+38 to "
-         "3.40282347e+38)"},
+         "frame -1e+308 is outside the renderer's time range (-3.4028235e+38 to "
+         "3.4028235e+38)"},
         {{"-s", "1", "-e", "1e39", "a.ma"},
-         "frame 1e+39 is outside the renderer's time range (-3.40282347e+38 to 3.40282347e+38)"},
+         "frame 1e+39 is outside the renderer's time range (-3.4028235e+38 to 3.4028235e+38)"},
         {{"-s", "1", "-mb", "on", "-mbDuration", "1.7e308", "-mbCenter", "1.7e308", "a.ma"},
          "the motion blur samples of frame 1 fall outside the renderer's time range "
-         "(-3.40282347e+38 to 3.40282347e+38); see -mbDuration and -mbCenter"},
+         "(-3.4028235e+38 to 3.4028235e+38); see -mbDuration and -mbCenter"},
         {{"-s", "1", "-e", "3", "-mb", "on", "-mbCenter", "-3.41e38", "a.ma"},
          "the motion blur samples of frame 1 fall outside the renderer's time range "
-         "(-3.40282347e+38 to 3.40282347e+38); see -mbDuration and -mbCenter"},
+         "(-3.4028235e+38 to 3.4028235e+38); see -mbDuration and -mbCenter"},
     };
     for (const auto& c : cases) {
         const xrvell::CommandLine line = parse(c.args);

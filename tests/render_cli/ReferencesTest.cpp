@@ -99,7 +99,7 @@ TEST_F(References, TheDemoShotRendersEachCharacterWithItsOwnEdits) {
     ASSERT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(valueIn(result.out, "charA:furVRayShape", "density"), "2.5");
     EXPECT_EQ(valueIn(result.out, "charB:furVRayShape", "density"), "6");
-    EXPECT_EQ(valueIn(result.out, "charA:furVRayShape", "width"), "0.800000012");
+    EXPECT_EQ(valueIn(result.out, "charA:furVRayShape", "width"), "0.8");
     EXPECT_EQ(valueIn(result.out, "charB:furVRayShape", "width"), "0.5");
     EXPECT_EQ(valueIn(result.out, "charA:furVRayShape", "file"),
               "\"/shows/demo/sh010/cache/charA/furShape.0001.xvc\"");

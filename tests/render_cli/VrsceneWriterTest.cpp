@@ -3,6 +3,10 @@
 
 #include <stdlib.h>
 
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <limits>
 #include <string>
@@ -68,18 +72,37 @@ TEST(VrsceneValueTest, WritesEachKindSoItReadsBack) {
         const char* expected;
     } cases[] = {
         {integer(-7), "-7"},
+        {integer(-2147483647 - 1), "-2147483648"},
+        // The value as it was typed, not the float's nine digits (0.800000012).
         {real(3.0f), "3"},
-        {real(0.1f), "0.100000001"},
-        {real(1e-10f), "1.00000001e-10"},
+        {real(0.8f), "0.8"},
+        {real(0.1f), "0.1"},
+        {real(1.0f / 3.0f), "0.33333334"},
         {real(-0.0f), "-0"},
         {real(16777217.0f), "16777216"},
+        // Whole numbers and small fractions are written out as %g would, not as 1e+05.
+        {real(100000.0f), "100000"},
+        {real(-7.0f), "-7"},
+        {real(999999936.0f), "999999936"},
+        {real(12000000.0f), "12000000"},
+        {real(0.0001f), "0.0001"},
+        {real(1e-5f), "1e-05"},
+        {real(1e-10f), "1e-10"},
+        {real(1e9f), "1e+09"},
+        {real(3.4028235e38f), "3.4028235e+38"},
         {dbl(0.1), "0.1"},
         {dbl(1.0 / 3.0), "0.3333333333333333"},
         {dbl(0.1 + 0.2), "0.30000000000000004"},
-        {triple(Kind::Vector, 1.0f, -2.5f, 0.1f), "Vector(1,-2.5,0.100000001)"},
+        {dbl(123456789012.0), "123456789012"},
+        {dbl(9007199254740992.0), "9007199254740992"},
+        {dbl(1e15), "1e+15"},
+        {dbl(-0.0), "-0"},
+        {dbl(-4503599627370497.0), "-4503599627370497"},
+        {dbl(-1e-300), "-1e-300"},
+        {triple(Kind::Vector, 1.0f, -2.5f, 0.1f), "Vector(1,-2.5,0.1)"},
         {triple(Kind::Color, 0.0f, 0.5f, 1.0f), "Color(0,0.5,1)"},
         {list({}), "ListFloat()"},
-        {list({1.25f, 0.2f}), "ListFloat(1.25,0.200000003)"},
+        {list({1.25f, 0.2f}), "ListFloat(1.25,0.2)"},
         {text(""), "\"\""},
         {text("a\"b\\c;d"), "\"a\\\"b\\\\c;d\""},
         {text("a\nb\tc\rd"), "\"a\\nb\\tc\\rd\""},
@@ -90,6 +113,25 @@ TEST(VrsceneValueTest, WritesEachKindSoItReadsBack) {
         {value(Kind::None), ""},
     };
     for (const auto& c : cases) EXPECT_EQ(written(c.value), c.expected);
+}
+
+// Floats of every size and sign, a sample of all their bit patterns, and doubles near them.
+TEST(VrsceneValueTest, NumbersReadBackToTheSameBits) {
+    for (uint64_t bits = 0; bits <= 0xFFFFFFFFu; bits += 65521) {
+        float f;
+        const uint32_t pattern = static_cast<uint32_t>(bits);
+        std::memcpy(&f, &pattern, sizeof f);
+        if (std::isnan(f)) continue;
+        std::string out;
+        xrvell::VrsceneValue::appendFloat(f, out);
+        const float back = std::strtof(out.c_str(), nullptr);
+        EXPECT_EQ(std::memcmp(&back, &f, sizeof f), 0) << out;
+        const double d = static_cast<double>(f) * (1.0 + 1e-12);
+        out.clear();
+        xrvell::VrsceneValue::appendDouble(d, out);
+        const double readDouble = std::strtod(out.c_str(), nullptr);
+        EXPECT_EQ(std::memcmp(&readDouble, &d, sizeof d), 0) << out;
+    }
 }
 
 // Reads a written string back the way a C-style parser does: "\n", "\t", "\r", "\"", "\\"

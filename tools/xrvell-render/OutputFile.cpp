@@ -108,6 +108,7 @@ bool OutputFile::write(std::string_view text, std::string* error) {
     while (!text.empty()) {
         const ssize_t written = ::write(fd, text.data(), text.size());
         if (written < 0 && errno == EINTR) continue;
+        closedByReader = written < 0 && errno == EPIPE;
         if (written <= 0) return failWith(written < 0 ? errno : EIO, error);
         text.remove_prefix(static_cast<size_t>(written));
     }

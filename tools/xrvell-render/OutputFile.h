@@ -23,6 +23,8 @@ public:
 
     // Whether text written so far is already visible at the target.
     bool writesInPlace() const { return inPlace; }
+    // Whether a write failed because the reader of a pipe closed its end (a pipe into head).
+    bool readerGone() const { return closedByReader; }
 
 private:
     bool openInPlace(const std::string& target, std::string* error);
@@ -36,6 +38,7 @@ private:
     int fd = -1;
     bool inPlace = false;
     bool committed = false;
+    bool closedByReader = false;
 };
 
 }  // namespace xrvell

@@ -12,6 +12,7 @@
 
 #include "CommandLine.h"
 #include "Diagnostics.h"
+#include "MessageGroups.h"
 #include "OutputFile.h"
 #include "PluginPath.h"
 #include "ProgressLine.h"
@@ -148,14 +149,37 @@ bool RenderJob::render(OutputFile& output) {
             progress.update(framesDone, total);
         },
         outputStarted);
+    // Without the renderer plugin the bridges make no block, and a file of comments alone would
+    // pass for a render: the text waits until the render shows whether there were bridges.
+    const bool rendererMissing = !registry.getPluginDesc(VrsceneWriter::kPluginType);
+    if (rendererMissing) stream.hold();
     stream.start();
+    drive(stream, progress);
+    if (rendererMissing && rendered.geometrySources > 0) return rendererNotFound();
+    if (stream.flush()) return true;
+    readerGone = output.readerGone();
+    return writeFailed(stream.failure());
+}
+
+// The messages the plug-ins show come after the progress line, each once with its repeats.
+void RenderJob::drive(VrsceneStream& stream, ProgressLine& progress) {
+    MessageGroups hostLines(log, options.verbosity);
     {
         vrayrender::RenderDriver driver(&registry);
         rendered = driver.render(options.settings, &stream);
     }
     progress.finish();
+    hostLines.flush();
     countHostMessages();
-    return stream.flush() || writeFailed(stream.failure());
+}
+
+bool RenderJob::rendererNotFound() {
+    std::string searched;
+    for (const std::string& directory : options.rendererPluginPath)
+        searched += (searched.empty() ? "searched " : ", ") + directory;
+    if (searched.empty()) searched = "the renderer plugin path is empty";
+    return fail(std::string("renderer plugin \"") + VrsceneWriter::kPluginType + "\" not found; " +
+                searched + "; nothing written");
 }
 
 void RenderJob::frameDone(const vrayrender::RecordedFrame& frame) {
@@ -175,8 +199,12 @@ void RenderJob::countHostMessages() {
 }
 
 bool RenderJob::writeFailed(const std::string& reason) {
-    return fail("cannot write \"" + options.output + "\": " + reason +
-                (outputStarted ? "; the output is incomplete" : ""));
+    const std::string target =
+        options.output == "-" ? "to standard output" : "\"" + options.output + "\"";
+    // A reader that stopped reading, as head does, has all it wanted.
+    const bool incomplete = outputStarted && !readerGone;
+    return fail("cannot write " + target + ": " + reason +
+                (incomplete ? "; the output is incomplete" : ""));
 }
 
 void RenderJob::printDetails() const {

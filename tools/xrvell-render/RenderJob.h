@@ -12,6 +12,8 @@ namespace xrvell {
 
 class OutputFile;
 class PluginPath;
+class ProgressLine;
+class VrsceneStream;
 
 // One run of xrvell-render: loads the plug-ins into the stand-in host, reads the scene,
 // renders the frames through the renderer stand-in and writes the .vrscene. Leaves the host
@@ -41,6 +43,8 @@ private:
     bool outputIsNotTheScene();
     bool resolveFrames();
     bool writeFailed(const std::string& reason);
+    void drive(VrsceneStream& stream, ProgressLine& progress);
+    bool rendererNotFound();
     void countHostMessages();
     void printDetails() const;
     void printSummary() const;
@@ -58,6 +62,7 @@ private:
     int errors = 0;
     int hiddenErrors = 0;        // beyond those the scene's reading shows
     bool outputStarted = false;  // text has reached a target written in place
+    bool readerGone = false;     // the reader of the output closed its end
     unsigned long long sceneDevice = 0, sceneInode = 0;
 };
 

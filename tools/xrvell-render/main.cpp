@@ -1,5 +1,6 @@
 // xrvell-render: renders a Maya ASCII scene through the bridge plug-in and writes what the
 // xrVellVRay renderer plugin receives as a .vrscene.
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -18,6 +19,9 @@ const char* environment(const char* name) { return std::getenv(name); }
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A reader that goes away (a pipe into head) is a write error to report, with the summary,
+    // not a signal that ends the program unseen.
+    std::signal(SIGPIPE, SIG_IGN);
     try {
         const std::vector<std::string> args(argv + 1, argv + argc);
         const xrvell::CommandLine commandLine(

@@ -14,6 +14,8 @@ struct NodeType;
 enum class AttributeKind { Numeric, Typed, Unit };
 
 struct AttributeObj : Object {
+    AttributeObj* asAttribute() override { return this; }
+
     std::string longName;
     std::string shortName;
     AttributeKind kind = AttributeKind::Numeric;

@@ -230,36 +230,6 @@ std::string nodeName(const MObject& handle) {
     return node ? node->name : std::string();
 }
 
-namespace {
-
-// A node record keeps what every access reads in its first cache line.
-const size_t kNodeRecordBytes = 64;
-// The start of a plug-in's node object, where its own fields usually are.
-const size_t kUserNodeBytes = 128;
-
-void addNodeMemory(const NodeObj& node, std::vector<MemoryBlock>& blocks) {
-    blocks.push_back({&node, kNodeRecordBytes});
-    if (node.user) blocks.push_back({node.user, kUserNodeBytes});
-    if (!node.slots.empty())
-        blocks.push_back({node.slots.data(), node.slots.size() * sizeof(Slot)});
-}
-
-}  // namespace
-
-std::vector<MemoryBlock> nodeMemory(const MObject& handle) {
-    std::vector<MemoryBlock> blocks;
-    const NodeObj* node = nodeOf(handle);
-    if (!node) return blocks;
-    addNodeMemory(*node, blocks);
-    for (const MObject& handle : node->type->attributes) {
-        const Connection* connection = incomingConnection(*node, *attributeOf(handle));
-        if (!connection) continue;
-        blocks.push_back({connection, sizeof(Connection)});
-        addNodeMemory(*connection->sourceNode, blocks);
-    }
-    return blocks;
-}
-
 MPxNode* userNode(const MObject& handle) {
     NodeObj* node = nodeOf(handle);
     return node ? node->user : nullptr;

@@ -44,11 +44,15 @@ DataType* findDataType(unsigned int id) {
 }
 
 NodeObj* nodeOf(const MObject& handle) {
-    NodeObj* node = Access::as<NodeObj>(handle);
+    Object* object = Access::object(handle);
+    NodeObj* node = object ? object->asNode() : nullptr;
     return node && node->alive ? node : nullptr;
 }
 
-AttributeObj* attributeOf(const MObject& handle) { return Access::as<AttributeObj>(handle); }
+AttributeObj* attributeOf(const MObject& handle) {
+    Object* object = Access::object(handle);
+    return object ? object->asAttribute() : nullptr;
+}
 
 AttributeObj* NodeType::findAttribute(const std::string& attributeName) const {
     for (const MObject& handle : attributes) {

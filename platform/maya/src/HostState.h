@@ -65,7 +65,8 @@ DataType* findDataType(unsigned int id);
 NodeObj* nodeOf(const MObject& handle);
 AttributeObj* attributeOf(const MObject& handle);
 void diagnose(const std::string& text);
-void showMessage(Message::Channel channel, const std::string& text);
+// Keeps the message and prints `line`, the message as Maya shows it.
+void showMessage(Message::Channel channel, const std::string& text, const std::string& line);
 bool nextCallFails(int& counter, const std::set<int>& failing);
 
 // Removes a node type with everything that refers to it; false when nodes of it still exist.

@@ -45,6 +45,8 @@ struct Unmodelled {
 // What every access through a handle or a plug reads comes first, with the reference count, so
 // that it shares a cache line: a render walks thousands of nodes at each time step.
 struct NodeObj : Object {
+    NodeObj* asNode() override { return this; }
+
     bool alive = true;
     NodeType* type = nullptr;
     // Values by the attribute's place, made on first use. Each vector is sized once for its

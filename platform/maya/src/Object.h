@@ -13,20 +13,37 @@ namespace detail {
 
 // Reference counted by the MObject handles that point at it; the host keeps its own reference
 // for as long as the object is part of the scene or a registry.
+struct NodeObj;
+struct AttributeObj;
+
 struct Object {
     virtual ~Object() = default;
+    // What the object is, told without a dynamic_cast: every plug access resolves its handles.
+    virtual NodeObj* asNode() { return nullptr; }
+    virtual AttributeObj* asAttribute() { return nullptr; }
     int references = 0;
 };
 
 struct DrawDataObj;
 
-void retain(Object* object);
-void release(Object* object);
+// Inline: every copy and end of a handle or plug goes through these.
+inline void retain(Object* object) {
+    if (object) ++object->references;
+}
+
+inline void release(Object* object) {
+    if (object && --object->references == 0) delete object;
+}
 
 // Reaches the private parts of API classes that hold host objects.
 struct Access {
     static Object* object(const MObject& handle) { return handle.fObj; }
-    static MObject handle(Object* object);
+    static MObject handle(Object* object) {
+        MObject result;
+        result.fObj = object;
+        retain(object);
+        return result;
+    }
 
     static MDataBlock dataBlock(Object& node) {
         MDataBlock block;

@@ -23,10 +23,6 @@ namespace {
 // Clearing with a time beyond any frame tells animated parameters the render is over.
 const double kEndOfRender = 1e30;
 
-const size_t kCacheLine = 64;
-// The start of a parameter object, where its type and value usually are.
-const size_t kParameterBytes = 2 * kCacheLine;
-
 bool isGeometrySource(const MObject& node) {
     const MPlug type = mayahost::findPlug(node, "outApiType");
     return !type.isNull() && std::strcmp(type.asString().asChar(), "VRayGeometry") == 0;
@@ -49,32 +45,7 @@ void record(RecordedParameter& parameter, const RecordedValue& value, size_t ind
     later.push_back(value);
 }
 
-// Asks for a block to be brought into the caches ahead of its use.
-void fetchAhead(const void* start, size_t bytes) {
-    const char* block = static_cast<const char*>(start);
-    for (size_t at = 0; at < bytes; at += kCacheLine) __builtin_prefetch(block + at);
-}
-
 }  // namespace
-
-void RenderDriver::fetchListsAhead(const Sampling& sampling, const RecordedInstance& instance) {
-    fetchAhead(sampling.parameters.data(), sampling.parameters.size() * sizeof(Parameter));
-    fetchAhead(instance.parameters.data(), instance.parameters.size() * sizeof(RecordedParameter));
-}
-
-void RenderDriver::fetchValuesAhead(const Sampling& sampling, const RecordedInstance& instance) {
-    for (const Parameter& p : sampling.parameters) fetchAhead(p.parameter, kParameterBytes);
-    for (const RecordedParameter& recorded : instance.parameters) {
-        if (recorded.first.kind == RecordedValue::Kind::String)
-            __builtin_prefetch(recorded.first.text.data());
-        if (!recorded.later.empty()) __builtin_prefetch(recorded.later.data());
-    }
-}
-
-void RenderDriver::fetchNodeAhead(const Source& source) const {
-    for (size_t i = source.firstBlock; i < source.firstBlock + source.blockCount; ++i)
-        fetchAhead(nodeBlocks[i].start, nodeBlocks[i].bytes);
-}
 
 std::vector<double> sampleTimes(double frame, const MotionBlur& blur) {
     if (!blur.enabled) return {frame};
@@ -184,13 +155,8 @@ void RenderDriver::findSources(bool reuseInstances) {
         source.node = node;
         source.name = mayahost::uniquePathName(node);
         source.request.reset(new GeomRequest(registry, reuseInstances, &instanceCounter));
-        const std::vector<mayahost::MemoryBlock> blocks = mayahost::nodeMemory(node);
-        source.firstBlock = nodeBlocks.size();
-        source.blockCount = blocks.size();
-        nodeBlocks.insert(nodeBlocks.end(), blocks.begin(), blocks.end());
         sources.push_back(std::move(source));
     }
-    nodeBlocks.shrink_to_fit();  // kept through the render, so without the room grown into
 }
 
 void RenderDriver::translate(Source& source) {
@@ -221,9 +187,7 @@ const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& b
     current.sampleTimes = sampleTimes(frame, blur);
     mayahost::setCurrentTime(MTime(frame, MTime::uiUnit()));
     size_t count = 0;
-    for (size_t i = 0; i < sources.size(); ++i) {
-        Source& source = sources[i];
-        if (i + 1 < sources.size()) fetchNodeAhead(sources[i + 1]);
+    for (Source& source : sources) {
         translate(source);
         if (source.request->current()) enlist(source, count++);
     }
@@ -238,11 +202,6 @@ const RecordedFrame& RenderDriver::renderFrame(double frame, const MotionBlur& b
         mayahost::setCurrentTime(MTime(times[index], MTime::uiUnit()));
         const bool last = index + 1 == times.size();
         for (size_t i = 0; i < count; ++i) {
-            if (i + 2 < count) fetchListsAhead(sampling[i + 2], current.instances[i + 2]);
-            if (i + 1 < count) {
-                fetchValuesAhead(sampling[i + 1], current.instances[i + 1]);
-                fetchNodeAhead(*sampling[i + 1].source);
-            }
             if (index == 0) beginSampling(sampling[i], current.instances[i], times.front());
             sample(sampling[i], current.instances[i], times, index);
             if (!last) continue;

@@ -1,6 +1,5 @@
 #pragma once
 #include <maya/MObject.h>
-#include <mayahost/Host.h>
 
 #include <memory>
 #include <string>
@@ -38,10 +37,6 @@ private:
         std::string name;
         std::unique_ptr<GeomRequest> request;
         VUtils::VRayPlugin* lastSampled = nullptr;  // already in `rendered`
-        // Where the host keeps the node and the nodes feeding it, found when the render starts:
-        // this many blocks of `nodeBlocks` from the first.
-        size_t firstBlock = 0;
-        size_t blockCount = 0;
     };
     struct Parameter {
         VUtils::VRayPluginParameter* parameter;
@@ -69,18 +64,10 @@ private:
                 const std::vector<double>& times, size_t index);
     void listParameters(VUtils::VRayPlugin* plugin, std::vector<Parameter>& parameters) const;
     void finishRender();
-    // Each instance's records and parameters sit apart from the next one's, so that a scene
-    // larger than the caches would wait on memory at every instance. The sample loop asks for
-    // the lists of the instance two ahead and for what they point to one ahead; both loops ask
-    // for the memory the host keeps for the next node.
-    static void fetchListsAhead(const Sampling& sampling, const RecordedInstance& instance);
-    static void fetchValuesAhead(const Sampling& sampling, const RecordedInstance& instance);
-    void fetchNodeAhead(const Source& source) const;
 
     VUtils::PluginRegistry* registry;
     std::vector<Source> sources;
-    std::vector<mayahost::MemoryBlock> nodeBlocks;  // of all sources, one after the other
-    std::vector<VUtils::VRayPlugin*> rendered;      // every instance driven so far, in order
+    std::vector<VUtils::VRayPlugin*> rendered;  // every instance driven so far, in order
     std::unordered_set<VUtils::VRayPlugin*> renderedSet;
     int instanceCounter = 0;
     std::vector<Sampling> sampling;  // the instances of the frame being rendered, in order

@@ -8,6 +8,7 @@
 #include <maya/MStatus.h>
 #include <maya/MTime.h>
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -140,17 +141,6 @@ std::string nodeName(const MObject& node);
 // ("charA|fur|furShape"); Maya's partial path name.
 std::string uniquePathName(const MObject& node);
 MPxNode* userNode(const MObject& node);
-// Where a node's memory lies: the start of its record and of its plug-in object, its values, and
-// the same for each node feeding one of its plugs. For a caller that works through thousands of
-// nodes, as a renderer walking a large scene, and asks for the next node's memory ahead of use
-// (a prefetch). The blocks are hints, never to be read through: a plug-in object may be shorter
-// than its block, and all of them move when nodes or connections change. None for a null or
-// deleted node.
-struct MemoryBlock {
-    const void* start;
-    size_t bytes;
-};
-std::vector<MemoryBlock> nodeMemory(const MObject& node);
 // The plug of a node's attribute by long or short name; a null plug when there is none.
 MPlug findPlug(const MObject& node, const std::string& attribute);
 // Calls the node's compute for the plug directly, with the node's data block.
@@ -230,6 +220,11 @@ struct Message {
 };
 std::vector<Message> messages();
 void clearMessages();
+// Each message is printed as Maya's batch mode prints it ("// Error: ..."), on standard error
+// unless a host user takes the lines, to group repeats say. An empty function gives them back.
+// Kept through reset().
+using MessageEcho = std::function<void(const std::string& line)>;
+void setMessageEcho(MessageEcho echo);
 // The host's own diagnostics (why a registration or connection was refused).
 std::vector<std::string> diagnostics();
 

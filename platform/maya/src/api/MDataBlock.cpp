@@ -6,6 +6,9 @@ using namespace mayahost::detail;
 
 namespace {
 
+NodeObj* nodeIn(Object* object) { return object ? object->asNode() : nullptr; }
+AttributeObj* attributeIn(Object* object) { return object ? object->asAttribute() : nullptr; }
+
 void set(MStatus* target, MStatus value) {
     if (target) *target = value;
 }
@@ -18,14 +21,14 @@ Value& scratch() {
 }
 
 Value& valueOf(const MDataHandle& handle) {
-    auto* node = dynamic_cast<NodeObj*>(Access::node(handle));
-    auto* attribute = dynamic_cast<AttributeObj*>(Access::attribute(handle));
+    auto* node = nodeIn(Access::node(handle));
+    auto* attribute = attributeIn(Access::attribute(handle));
     if (!node || !attribute) return scratch();
     return node->slot(*attribute).value;
 }
 
 MDataHandle handleFor(Object* blockNode, const MObject& attribute, bool pull, MStatus* status) {
-    auto* node = dynamic_cast<NodeObj*>(blockNode);
+    auto* node = nodeIn(blockNode);
     AttributeObj* attr = attributeOf(attribute);
     if (!node || !attr || !node->has(*attr)) {
         set(status, MStatus::kInvalidParameter);
@@ -56,7 +59,7 @@ MDataHandle MDataBlock::outputValue(const MObject& attribute, MStatus* s) {
 MStatus MDataBlock::setClean(const MPlug& plug) { return setClean(plug.attribute()); }
 
 MStatus MDataBlock::setClean(const MObject& attribute) {
-    auto* node = dynamic_cast<NodeObj*>(fNode);
+    auto* node = nodeIn(fNode);
     AttributeObj* attr = attributeOf(attribute);
     if (!node || !attr) return MStatus::kInvalidParameter;
     markClean(*node, *attr);
@@ -86,8 +89,8 @@ void MDataHandle::setString(const MString& value) { valueOf(*this).setString(val
 void MDataHandle::setMTime(const MTime& value) { valueOf(*this).setTime(value); }
 
 void MDataHandle::setClean() {
-    auto* node = dynamic_cast<NodeObj*>(fNode);
-    auto* attribute = dynamic_cast<AttributeObj*>(fAttribute);
+    auto* node = nodeIn(fNode);
+    auto* attribute = attributeIn(fAttribute);
     if (node && attribute) markClean(*node, *attribute);
 }
 

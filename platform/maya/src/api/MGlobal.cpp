@@ -1,28 +1,32 @@
 #include <maya/MGlobal.h>
 
 #include <cstdio>
+#include <string>
+#include <utility>
 
 #include "../HostState.h"
 
 namespace mayahost {
+namespace {
+
+MessageEcho& echo() {
+    static MessageEcho taken;
+    return taken;
+}
+
+}  // namespace
+
+void setMessageEcho(MessageEcho taker) { echo() = std::move(taker); }
+
 namespace detail {
 
 // Collected for the host's users and echoed the way Maya's batch mode prints them.
-void showMessage(Message::Channel channel, const std::string& text) {
+void showMessage(Message::Channel channel, const std::string& text, const std::string& line) {
     state().messages.push_back(Message{channel, text});
-    switch (channel) {
-        case Message::Channel::Error:
-            std::fprintf(stderr, "// Error: %s\n", text.c_str());
-            break;
-        case Message::Channel::Warning:
-            std::fprintf(stderr, "// Warning: %s\n", text.c_str());
-            break;
-        case Message::Channel::Info:
-            std::fprintf(stderr, "%s\n", text.c_str());
-            break;
-        case Message::Channel::Perror:
-            break;  // MStatus::perror prints its own line
-    }
+    if (echo())
+        echo()(line);
+    else
+        std::fprintf(stderr, "%s\n", line.c_str());
 }
 
 }  // namespace detail
@@ -31,15 +35,18 @@ void showMessage(Message::Channel channel, const std::string& text) {
 OPENMAYA_NAMESPACE_OPEN
 
 void MGlobal::displayError(const MString& theError) {
-    mayahost::detail::showMessage(mayahost::Message::Channel::Error, theError.asChar());
+    mayahost::detail::showMessage(mayahost::Message::Channel::Error, theError.asChar(),
+                                  std::string("// Error: ") + theError.asChar());
 }
 
 void MGlobal::displayWarning(const MString& theWarning) {
-    mayahost::detail::showMessage(mayahost::Message::Channel::Warning, theWarning.asChar());
+    mayahost::detail::showMessage(mayahost::Message::Channel::Warning, theWarning.asChar(),
+                                  std::string("// Warning: ") + theWarning.asChar());
 }
 
 void MGlobal::displayInfo(const MString& theMessage) {
-    mayahost::detail::showMessage(mayahost::Message::Channel::Info, theMessage.asChar());
+    mayahost::detail::showMessage(mayahost::Message::Channel::Info, theMessage.asChar(),
+                                  theMessage.asChar());
 }
 
 OPENMAYA_NAMESPACE_CLOSE

@@ -8,7 +8,7 @@ using namespace mayahost::detail;
 
 namespace {
 
-NodeObj* hostNode(Object* object) { return dynamic_cast<NodeObj*>(object); }
+NodeObj* hostNode(Object* object) { return object ? object->asNode() : nullptr; }
 
 bool ownedByInitializingType(const AttributeObj* attribute) {
     return attribute && attribute->owner && attribute->owner == state().initializing;

@@ -1,7 +1,6 @@
 #include <maya/MStatus.h>
 #include <maya/MString.h>
 
-#include <cstdio>
 #include <string>
 
 #include "../HostState.h"
@@ -40,8 +39,7 @@ MString MStatus::errorString() const { return MString(describe(fStatus)); }
 
 void MStatus::perror(const char* text) const {
     const std::string line = std::string(text ? text : "") + ": " + describe(fStatus);
-    mayahost::detail::showMessage(mayahost::Message::Channel::Perror, text ? text : "");
-    std::fprintf(stderr, "%s\n", line.c_str());
+    mayahost::detail::showMessage(mayahost::Message::Channel::Perror, text ? text : "", line);
 }
 
 void MStatus::perror(const MString& text) const { perror(text.asChar()); }

@@ -13,9 +13,6 @@ using vrayrender::RecordedInstance;
 using vrayrender::RecordedParameter;
 using vrayrender::RecordedValue;
 
-// The plugin type the bridge nodes create.
-const char* const kPluginType = "xrVellVRay";
-
 std::string doubleText(double value) {
     std::string text;
     VrsceneValue::appendDouble(value, text);
@@ -30,6 +27,9 @@ bool changesWithinFrame(const RecordedParameter& parameter, size_t samples) {
 }
 
 }  // namespace
+
+// The plugin type the bridge nodes create.
+const char* const VrsceneWriter::kPluginType = "xrVellVRay";
 
 VrsceneWriter::VrsceneWriter(std::string sceneName, const vrayrender::RenderSettings& render)
     : scene(std::move(sceneName)), settings(render) {}

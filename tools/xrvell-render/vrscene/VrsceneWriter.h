@@ -11,6 +11,9 @@ namespace xrvell {
 // Depends on nothing but its inputs.
 class VrsceneWriter {
 public:
+    // The renderer plugin type of every block.
+    static const char* const kPluginType;
+
     // The scene name and settings go into the header comment.
     VrsceneWriter(std::string sceneName, const vrayrender::RenderSettings& settings);
 

@@ -28,6 +28,8 @@ public:
 
     // Writes the file's header comment; it goes out with the first piece.
     void start();
+    // Keeps the text back until flush(), for a render whose output may turn out to be unwanted.
+    void hold() { holding = true; }
     // Writes what is gathered; false when this or an earlier write failed, with why in failure().
     bool flush();
     const std::string& failure() const { return reason; }
@@ -41,6 +43,7 @@ private:
     FrameCallback frameWritten;
     bool& outputStarted;
     std::string pending;
+    bool holding = false;
     bool writable = true;
     std::string reason;
 };

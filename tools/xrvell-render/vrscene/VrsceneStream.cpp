@@ -32,7 +32,9 @@ bool VrsceneStream::frameDone(const vrayrender::RecordedFrame& frame) {
     return flushWhenFull();
 }
 
-bool VrsceneStream::flushWhenFull() { return writable && (pending.size() < chunk || flush()); }
+bool VrsceneStream::flushWhenFull() {
+    return writable && (holding || pending.size() < chunk || flush());
+}
 
 bool VrsceneStream::flush() {
     if (!writable || pending.empty()) return writable;
