@@ -53,13 +53,6 @@ private:
 
 class OutputFileTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        char name[] = "/tmp/xrvell-output-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        directory = name;
-    }
-    void TearDown() override { fs::remove_all(directory); }
-
     // Every entry under the directory, links as links, so a stray temporary file shows.
     std::vector<std::string> entries() const {
         std::vector<std::string> names;
@@ -73,7 +66,8 @@ protected:
         return output.open(error) && output.write(text, error) && output.commit(error);
     }
 
-    fs::path directory;
+    const TemporaryFolder temporary;
+    const fs::path directory = temporary.path();
 };
 
 TEST_F(OutputFileTest, RegularTargetsAreReplacedWholeBesideTheRealFile) {

@@ -99,20 +99,15 @@ std::vector<std::string> realScenes() {
 
 class RealScene : public ::testing::TestWithParam<std::string> {
 protected:
-    void SetUp() override {
-        char name[] = "/tmp/xrvell-real-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        directory = name;
-        scene = fs::path(REAL_SCENES_DIR) / GetParam();
-    }
-    void TearDown() override { fs::remove_all(directory); }
+    void SetUp() override { scene = fs::path(REAL_SCENES_DIR) / GetParam(); }
 
     ToolResult render(std::vector<std::string> args) {
         args.insert(args.begin(), TOOL_PATH);
         return ToolRun::run(args, SOURCE_DIR);
     }
 
-    fs::path directory;
+    const TemporaryFolder temporary;
+    const fs::path directory = temporary.path();
     fs::path scene;
 };
 

@@ -55,13 +55,6 @@ std::string referenceNode(const std::string& ns, int count, const std::string& e
 
 class References : public ::testing::Test {
 protected:
-    void SetUp() override {
-        char name[] = "/tmp/xrvell-refs-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        directory = name;
-    }
-    void TearDown() override { fs::remove_all(directory); }
-
     // A file that starts as Maya starts its files ends as Maya ends them.
     void write(const std::string& relative, const std::string& text) {
         fs::create_directories((directory / relative).parent_path());
@@ -78,7 +71,8 @@ protected:
         return ToolRun::run(args, directory.string(), environment);
     }
 
-    fs::path directory;
+    const TemporaryFolder temporary;
+    const fs::path directory = temporary.path();
 };
 
 // The value of `parameter` in the block of `node`, or "" when there is none.
@@ -305,9 +299,8 @@ TEST_F(References, ConnectionsThroughPlaceholdersReachTheReferencedPlugs) {
 class ReferencesInHost : public HostTest {};
 
 TEST_F(ReferencesInHost, AShotsNodeDrivesAReferencedPlugThroughAPlaceholder) {
-    char name[] = "/tmp/xrvell-refs-XXXXXX";
-    ASSERT_NE(mkdtemp(name), nullptr);
-    const fs::path folder = name;
+    const TemporaryFolder temporary;
+    const fs::path& folder = temporary.path();
     writeFile(folder / "bridge.ma",
               std::string(kPlugins) + "createNode xrVellMayaVRay -n \"bridgeShape\";\n");
     const std::string shot = referenceLines("br", "bridge.ma") + kPlugins +
@@ -326,7 +319,6 @@ TEST_F(ReferencesInHost, AShotsNodeDrivesAReferencedPlugThroughAPlaceholder) {
         .connectedTo(sources, true, false);
     ASSERT_EQ(sources.length(), 1u);
     EXPECT_EQ(std::string(sources[0].name().asChar()), "shotTime.outTime");
-    fs::remove_all(folder);
 }
 
 // Edits of each kind a shot holds, applied to its own reference only.

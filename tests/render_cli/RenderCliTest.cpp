@@ -25,28 +25,16 @@ namespace fs = std::filesystem;
 
 class RenderCliTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        char name[] = "/tmp/xrvell-cli-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        directory = name;
-    }
-    void TearDown() override { fs::remove_all(directory); }
-
     ToolResult run(std::vector<std::string> args, const std::string& where = SOURCE_DIR,
                    const std::vector<std::string>& environment = {}) {
         args.insert(args.begin(), TOOL_PATH);
         return ToolRun::run(args, where, environment);
     }
     // The files the job left in the directory, for "nothing written" checks.
-    std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(directory))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::vector<std::string> files() const { return namesIn(directory); }
 
-    fs::path directory;
+    const TemporaryFolder temporary;
+    const fs::path directory = temporary.path();
 };
 
 // The demo is a clean scene: every line Maya wrote is read without a warning.

@@ -24,28 +24,17 @@ const char* const kMissingRenderer =
 
 class RenderOutputTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        char name[] = "/tmp/xrvell-output-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        directory = name;
-        fs::create_directories(directory / "no-renderer");
-    }
-    void TearDown() override { fs::remove_all(directory); }
+    void SetUp() override { fs::create_directories(directory / "no-renderer"); }
 
     static ToolResult run(std::vector<std::string> args) {
         args.insert(args.begin(), TOOL_PATH);
         return ToolRun::run(args, SOURCE_DIR);
     }
-    std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(directory))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::vector<std::string> files() const { return namesIn(directory); }
     std::string noRenderer() const { return (directory / "no-renderer").string(); }
 
-    fs::path directory;
+    const TemporaryFolder temporary;
+    const fs::path directory = temporary.path();
 };
 
 // The frames a summary line counts: "xrvell-render: 12 frames, ...".

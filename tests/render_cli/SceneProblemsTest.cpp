@@ -22,27 +22,16 @@ const char* const kPlugins =
 
 class SceneProblems : public ::testing::Test {
 protected:
-    void SetUp() override {
-        char name[] = "/tmp/xrvell-problems-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        directory = name;
-        demo = contentsOf(fs::path(SOURCE_DIR) / "examples/demo.ma");
-    }
-    void TearDown() override { fs::remove_all(directory); }
+    void SetUp() override { demo = contentsOf(fs::path(SOURCE_DIR) / "examples/demo.ma"); }
 
     ToolResult run(std::vector<std::string> args) {
         args.insert(args.begin(), TOOL_PATH);
         return ToolRun::run(args, directory.string());
     }
-    std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(directory))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::vector<std::string> files() const { return namesIn(directory); }
 
-    fs::path directory;
+    const TemporaryFolder temporary;
+    const fs::path directory = temporary.path();
     std::string demo;
 };
 

@@ -31,13 +31,6 @@ std::string character(const std::string& name, const std::string& top, const cha
 
 class SceneRules : public ::testing::Test {
 protected:
-    void SetUp() override {
-        char name[] = "/tmp/xrvell-rules-XXXXXX";
-        ASSERT_NE(mkdtemp(name), nullptr);
-        directory = name;
-    }
-    void TearDown() override { fs::remove_all(directory); }
-
     ToolResult render(const std::string& scene, std::vector<std::string> args) {
         writeFile(directory / "shot.ma", scene);
         args.insert(args.begin(), TOOL_PATH);
@@ -45,7 +38,8 @@ protected:
         return ToolRun::run(args, directory.string());
     }
 
-    fs::path directory;
+    const TemporaryFolder temporary;
+    const fs::path directory = temporary.path();
 };
 
 TEST_F(SceneRules, CharactersWithTheSameShortNamesGetTheirOwnSettings) {
