@@ -3,7 +3,6 @@
 #include <mayahost/Host.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "MaArguments.h"
 #include "ReferencePath.h"
@@ -21,14 +20,6 @@ std::string withoutExtension(const std::string& path) {
     std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
     const size_t dot = name.rfind('.');
     return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
-}
-
-std::string realPath(const std::string& path) {
-    char* real = realpath(path.c_str(), nullptr);
-    if (!real) return path;
-    std::string result = real;
-    std::free(real);
-    return result;
 }
 
 std::vector<MaWord> tokens(const std::string& arguments) {
@@ -173,7 +164,7 @@ bool ReferenceCommands::readable(const Reference& reference, std::string* path, 
 // A file that references itself, at any depth, would be read without end.
 bool ReferenceCommands::readWithoutCycle(const Reference& reference, const std::string& path,
                                          std::string_view text) {
-    const std::string id = realPath(path);
+    const std::string id = ReferencePath::realPathOf(path);
     const auto& ids = scene.readingIds;
     const auto loop = std::find(ids.begin(), ids.end(), id);
     if (loop != ids.end()) {

@@ -39,6 +39,14 @@ std::string ReferencePath::folderOf(const std::string& path) {
     return slash == 0 ? "/" : path.substr(0, slash);
 }
 
+std::string ReferencePath::realPathOf(const std::string& path) {
+    char* real = realpath(path.c_str(), nullptr);
+    if (!real) return path;
+    std::string result = real;
+    std::free(real);
+    return result;
+}
+
 std::string ReferencePath::projectOf(const std::string& sceneFolder) {
     char* real = realpath(sceneFolder.c_str(), nullptr);
     if (!real) return "";

@@ -23,6 +23,9 @@ public:
 
     // The folder of a file path ("." for a bare name).
     static std::string folderOf(const std::string& path);
+    // The path with its links and dots resolved, to tell one file by two names; the path as
+    // given when it cannot be resolved.
+    static std::string realPathOf(const std::string& path);
     // The project a scene belongs to: the nearest folder above it holding workspace.mel, as
     // Maya marks a project; empty when there is none.
     static std::string projectOf(const std::string& sceneFolder);

@@ -1,7 +1,5 @@
 #include "SceneReader.h"
 
-#include <cstdlib>
-
 #include "FileReader.h"
 #include "ReferencePath.h"
 
@@ -20,10 +18,8 @@ void SceneReader::setProject(const std::string& root) {
 bool SceneReader::read(std::string_view text) {
     const std::string file = scene.diagnostics.currentFile();
     if (!projectGiven) scene.project = ReferencePath::projectOf(ReferencePath::folderOf(file));
-    char* real = realpath(file.c_str(), nullptr);
     scene.reading.assign(1, file);
-    scene.readingIds.assign(1, real ? real : file);
-    std::free(real);
+    scene.readingIds.assign(1, ReferencePath::realPathOf(file));
     const bool read = FileReader(scene, file, "").read(text);
     scene.diagnostics.setFile(file);
     scene.diagnostics.flush();
