@@ -10,12 +10,19 @@
 
 namespace mayahost {
 namespace detail {
+void addAffects(AttributeObj& cause, AttributeObj& effect) {
+    cause.affects.push_back(&effect);
+    effect.affectedBy.push_back(&cause);
+}
+
 namespace {
 
 // Four-character ids, in the style of Maya's built-in types, outside the plug-in id ranges.
 const unsigned int kTransformId = 0x5846524d;  // 'XFRM'
 const unsigned int kTimeId = 0x54494d45;       // 'TIME'
 const unsigned int kMeshId = 0x444d5348;       // 'DMSH'
+
+}  // namespace
 
 AttributeObj& addAttribute(NodeType& type, const char* longName, const char* shortName,
                            AttributeKind kind) {
@@ -35,6 +42,8 @@ void addDouble(NodeType& type, const char* longName, const char* shortName, doub
     attribute.keyable = true;
     attribute.defaultValue.setNumber(value);
 }
+
+namespace {
 
 // Rotation is kept in radians, Maya's internal angle unit.
 void addTransformType() {

@@ -91,7 +91,9 @@ void addConnection(const Connection& connection) {
 void connectionsRemoved() { state().connectionIndexStale = true; }
 
 MStatus computePlug(NodeObj& node, const AttributeObj& attribute) {
-    if (!node.user) return MStatus::kUnknownParameter;
+    if (!node.user)
+        return node.type->compute ? node.type->compute(node, attribute)
+                                  : MStatus::kUnknownParameter;
     MDataBlock block = Access::dataBlock(node);
     return node.user->compute(plugOf(node, attribute), block);
 }
@@ -105,7 +107,7 @@ Value& evaluate(NodeObj& node, const AttributeObj& attribute) {
         const Value& upstream = evaluate(source, *connection->sourceAttribute);
         node.slot(attribute).value = upstream;
         node.slot(attribute).dirty = false;
-    } else if (attribute.isComputed() && node.user) {
+    } else if (attribute.isComputed() && (node.user || node.type->compute)) {
         // A plug the node does not compute keeps its stored value.
         if (computePlug(node, attribute) == MStatus::kUnknownParameter)
             node.slot(attribute).dirty = false;

@@ -137,6 +137,7 @@ void reset() {
     host.initializing = nullptr;
     MTime::setUIUnit(MTime::kFilm);
     host.currentTime = MTime(1.0, MTime::kFilm);
+    host.uiUnits = UiUnits();
     startHost();
 }
 
@@ -341,5 +342,9 @@ void setFaults(const Faults& faults) {
     host.addAttributeCalls = 0;
     host.attributeAffectsCalls = 0;
 }
+
+void setUiUnits(const UiUnits& units) { state().uiUnits = units; }
+
+UiUnits uiUnits() { return state().uiUnits; }
 
 }  // namespace mayahost

@@ -53,6 +53,7 @@ struct HostState {
     int attributeAffectsCalls = 0;
     NodeType* initializing = nullptr;  // the type whose attribute initialiser is running
     MTime currentTime{1.0, MTime::kFilm};
+    UiUnits uiUnits;
     bool started = false;  // built-in types and default nodes are in place
 };
 

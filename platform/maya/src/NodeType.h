@@ -1,4 +1,5 @@
 #pragma once
+#include <maya/MStatus.h>
 #include <maya/MTypes.h>
 
 #include <string>
@@ -10,6 +11,12 @@ namespace mayahost {
 namespace detail {
 
 struct PluginObj;
+struct NodeObj;
+struct AttributeObj;
+
+// How one of the host's own types computes an output plug; kUnknownParameter for a plug it does
+// not compute.
+using BuiltinCompute = MStatus (*)(NodeObj& node, const AttributeObj& attribute);
 
 struct NodeType {
     std::string name;
@@ -21,9 +28,10 @@ struct NodeType {
     bool isShape = false;
     bool isDag = false;
     bool isTransform = false;
-    bool isUnknown = false;  // one of Maya's stand-ins for a type it does not know
-    PluginObj* plugin = nullptr;      // null for the host's own types
-    std::vector<MObject> attributes;  // in the order they were added
+    bool isUnknown = false;            // one of Maya's stand-ins for a type it does not know
+    PluginObj* plugin = nullptr;       // null for the host's own types
+    BuiltinCompute compute = nullptr;  // for the host's own types that evaluate
+    std::vector<MObject> attributes;   // in the order they were added
 
     AttributeObj* findAttribute(const std::string& name) const;
 };

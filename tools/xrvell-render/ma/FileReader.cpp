@@ -36,6 +36,42 @@ bool isBookkeeping(const std::string& command) {
     return false;
 }
 
+// currentUnit -l names, long and short, with centimetres per unit.
+bool linearUnitNamed(const std::string& name, double* centimetres) {
+    static const struct {
+        const char* shortName;
+        const char* longName;
+        double centimetres;
+    } units[] = {{"mm", "millimeter", 0.1},     {"cm", "centimeter", 1.0}, {"m", "meter", 100.0},
+                 {"km", "kilometer", 100000.0}, {"in", "inch", 2.54},      {"ft", "foot", 30.48},
+                 {"yd", "yard", 91.44},         {"mi", "mile", 160934.4}};
+    for (const auto& unit : units)
+        if (name == unit.shortName || name == unit.longName) {
+            *centimetres = unit.centimetres;
+            return true;
+        }
+    return false;
+}
+
+// currentUnit -a names, long and short, with radians per unit.
+bool angleUnitNamed(const std::string& name, double* radians) {
+    const double pi = 3.14159265358979323846;
+    static const struct {
+        const char* shortName;
+        const char* longName;
+        double radians;
+    } units[] = {{"deg", "degree", pi / 180.0},
+                 {"rad", "radian", 1.0},
+                 {"min", "angMinute", pi / 10800.0},
+                 {"sec", "angSecond", pi / 648000.0}};
+    for (const auto& unit : units)
+        if (name == unit.shortName || name == unit.longName) {
+            *radians = unit.radians;
+            return true;
+        }
+    return false;
+}
+
 // currentUnit -t names of Maya 2022's time units.
 bool timeUnitNamed(const std::string& name, MTime::Unit* unit) {
     static const struct {
@@ -222,13 +258,24 @@ bool FileReader::currentUnitCommand(const MaStatement& statement) {
                                 {"f", "fullName", false},
                                 {"ua", "updateAnimation", true}}))
         return context.fail(args.error());
+    // A referenced file's units are not the scene's.
+    const bool forScene = context.nameSpace().empty() && scene.reading.size() <= 1;
+    mayahost::UiUnits units = mayahost::uiUnits();
+    if (const std::string* linear = args.value("l")) {
+        if (!linearUnitNamed(*linear, &units.centimetresPerLinearUnit))
+            return context.fail("currentUnit: unsupported linear unit " + quoted(*linear));
+    }
+    if (const std::string* angle = args.value("a")) {
+        if (!angleUnitNamed(*angle, &units.radiansPerAngleUnit))
+            return context.fail("currentUnit: unsupported angle unit " + quoted(*angle));
+    }
+    if (forScene) mayahost::setUiUnits(units);
     const std::string* time = args.value("t");
     if (!time) return true;
     MTime::Unit unit = MTime::kFilm;
     if (!timeUnitNamed(*time, &unit))
         return context.fail("currentUnit: unsupported time unit " + quoted(*time));
-    // A referenced file's units are not the scene's.
-    if (context.nameSpace().empty() && scene.reading.size() <= 1) MTime::setUIUnit(unit);
+    if (forScene) MTime::setUIUnit(unit);
     return true;
 }
 

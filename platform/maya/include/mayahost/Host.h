@@ -160,6 +160,14 @@ MStatus disconnectAttr(const std::string& source, const std::string& destination
 // The scene time. Every "time" node's outTime follows it, in the UI time unit (Maya's
 // default: film, 24 frames per second).
 void setCurrentTime(const MTime& time);
+// The scene's UI units for lengths and angles (currentUnit -l / -a), as how many internal units
+// (centimetres, radians) one UI unit is. A fresh host works in centimetres and degrees, as Maya.
+struct UiUnits {
+    double centimetresPerLinearUnit = 1.0;
+    double radiansPerAngleUnit = 0.017453292519943295;
+};
+void setUiUnits(const UiUnits& units);
+UiUnits uiUnits();
 MTime currentTime();
 
 // The legacy viewport. The material assigned to a shape decides how shaded display evaluates;

@@ -31,8 +31,8 @@ struct AnimCurveKey {
 struct AnimCurveSettings {
     bool timeInput = true;  // animCurveT*: input in ticks; animCurveU*: the driver's value
     bool weighted = false;
-    int preInfinity = 0;  // Maya's codes: 0 constant, 1 linear, 3 cycle, 4 cycle with offset,
-    int postInfinity = 0; // 5 oscillate
+    int preInfinity = 0;   // Maya's codes: 0 constant, 1 linear, 3 cycle, 4 cycle with offset,
+    int postInfinity = 0;  // 5 oscillate
 };
 
 class AnimCurve {
