@@ -60,10 +60,7 @@ bool angleUnitNamed(const std::string& name, double* radians) {
         const char* shortName;
         const char* longName;
         double radians;
-    } units[] = {{"deg", "degree", pi / 180.0},
-                 {"rad", "radian", 1.0},
-                 {"min", "angMinute", pi / 10800.0},
-                 {"sec", "angSecond", pi / 648000.0}};
+    } units[] = {{"deg", "degree", pi / 180.0}, {"rad", "radian", 1.0}};
     for (const auto& unit : units)
         if (name == unit.shortName || name == unit.longName) {
             *radians = unit.radians;
