@@ -68,13 +68,16 @@ double unitInLastPlace(double value) {
     return std::nextafter(magnitude, std::numeric_limits<double>::infinity()) - magnitude;
 }
 
-// start + i * step misses the decimal the user meant by a unit or two in the last place
-// (3 * 0.1 is 0.30000000000000004): such a frame becomes the short decimal it stands for.
-double tidyFrame(double frame) {
+// start + offset misses the decimal the user meant by a unit or two in the last place of the
+// larger of its terms (3 * 0.1 is 0.30000000000000004; -1 + 3 * 0.3 is -0.10000000000000009):
+// such a frame becomes the short decimal it stands for, on either side of zero.
+double tidyFrame(double start, double offset) {
+    const double frame = start + offset;
     char text[32];
     std::snprintf(text, sizeof text, "%.15g", frame);
     const double tidy = std::strtod(text, nullptr);
-    return std::fabs(tidy - frame) <= 2 * unitInLastPlace(frame) ? tidy : frame;
+    const double largest = std::max({std::fabs(start), std::fabs(offset), std::fabs(frame)});
+    return std::fabs(tidy - frame) <= 2 * unitInLastPlace(largest) ? tidy : frame;
 }
 
 bool beyondSampleTimes(double time) { return !(std::fabs(time) <= kMaxSampleTime); }
@@ -100,7 +103,7 @@ RangeProblem computeFrames(const RenderSettings& settings, std::vector<double>* 
     const size_t last = static_cast<size_t>(std::floor(steps + kEndTolerance));
     all->reserve(last + 1);
     for (size_t i = 0; i <= last; ++i) {
-        double frame = i == 0 ? start : tidyFrame(start + static_cast<double>(i) * step);
+        double frame = i == 0 ? start : tidyFrame(start, static_cast<double>(i) * step);
         if (i == last && std::fabs(frame - end) <= kEndTolerance * step) frame = end;
         if (i > 0 && !(frame > all->back())) return {Kind::FramesTooClose, all->back()};
         all->push_back(frame);
