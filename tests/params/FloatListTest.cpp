@@ -133,7 +133,7 @@ TEST(FloatListSetFloat, OtherKindsReachAnOverridingSetFloat) {
 
 TEST(FloatListReaders, ConvertEachElement) {
     DefFloatListParam list("l");
-    std::vector<float> values{-2.7f, 1e-13f, std::nanf(""), 3e9f};
+    std::vector<float> values{-2.7f, 1e-13f, std::nanf(""), 3e9f, 0.5f};
     list.setFloatList(viewOf(values), 0.0);
     EXPECT_EQ(1, list.getType(0, 0.0));
     EXPECT_EQ(-2, list.getInt(0, 5.0));
@@ -141,6 +141,7 @@ TEST(FloatListReaders, ConvertEachElement) {
     EXPECT_EQ(0, list.getBool(1, 5.0));
     EXPECT_EQ(1, list.getBool(2, 5.0));
     EXPECT_EQ(std::numeric_limits<int>::min(), list.getInt(3, 5.0));
+    EXPECT_EQ(1, list.getBool(4, 5.0)) << "a fraction is true, not truncated to 0";
     EXPECT_EQ(static_cast<double>(-2.7f), list.getDouble(0, 5.0));
     const VUtils::AColor a = list.getAColor(0, 5.0);
     EXPECT_EQ(-2.7f, a.color.g);
